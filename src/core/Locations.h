@@ -1,0 +1,19 @@
+// Which archives the program opens: INI\GestioneRete.INI, and the two connections.
+#pragma once
+
+#include "core/ModNetServer.h"
+
+// Reads GestioneRete.INI into the four location globals, showing the dialog until a data archive is found or the user
+// gives up; then it says so and ends the program.
+void LeggiPercorsiDb(ModNetServer &modulo);
+// Opens both connections from the location globals.
+void ApriConnessioni(ModNetServer &modulo);
+// Opens ConnessioneSistema; a path with doubled backslashes is mended and tried again, other failures are ignored.
+void ApriDbSistema(ModNetServer &modulo, const QString &Percorso);
+// Opens ConnessioneDati where it is null: asks for the password of an encrypted archive, resets the locations for a
+// damaged one.
+void ApriDbDati(ModNetServer &modulo, const QString &Percorso);
+// Makes the folder INI with SDIForm.ini where it is not there.
+void AssicuraCartellaIni(ModNetServer &modulo);
+// Writes GestioneRete.INI: the native folder, "\" and the file name; line 2 stays empty while NetProc is false.
+void ScriviGestioneRete(ModNetServer &modulo, const QString &folder, const QString &file);

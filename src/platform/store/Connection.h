@@ -1,0 +1,61 @@
+// A connection to one archive: opens it, executes statements, and is what record sets open on.
+#pragma once
+
+#include "platform/Failure.h"
+
+#include <QString>
+
+#include <memory>
+
+enum class OpenOutcome { Aperto, PasswordRichiesta, Errore };
+
+struct OpenResult
+{
+    OpenOutcome outcome = OpenOutcome::Errore;
+    int number = 0; // of the failure
+    QString words;  // of the failure, in Italian
+    explicit operator bool() const { return outcome == OpenOutcome::Aperto; }
+};
+
+class Connection
+{
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    // Opens an existing archive; never makes one. A plain archive needs no password; an encrypted one without the
+    // right password gives PasswordRichiesta; whatever else is wrong (missing, damaged, foreign) gives Errore.
+    [[nodiscard]] OpenResult Open(const QString &path, const QString &password = {});
+    void Close();
+    bool isOpen() const;
+    QString path() const;
+
+    // Executes one Jet statement, gives the rows it changed. Throws Failure: ConnectionClosed, or Engine with the
+    // engine's words and the statement.
+    qint64 Execute(const QString &statement);
+
+    // Whether `name` is a table or stored query of this archive (case does not matter).
+    bool hasTable(const QString &name) const;
+
+    struct Private; // the engine's side, for the files of this folder alone
+    Private &engine() const { return *m_private; }
+
+private:
+    std::unique_ptr<Private> m_private;
+};
+
+// While one of these lives, writes are committed in groups instead of one by one. It always commits, on failure too,
+// and never rolls back: what was written stays written. Scopes may nest; the outermost one decides.
+class GruppoScritture
+{
+public:
+    explicit GruppoScritture(Connection &connection);
+    ~GruppoScritture();
+    GruppoScritture(const GruppoScritture &) = delete;
+    GruppoScritture &operator=(const GruppoScritture &) = delete;
+
+private:
+    Connection &m_connection;
+};

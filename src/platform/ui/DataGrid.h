@@ -1,0 +1,42 @@
+// A grid bound to a record set: its current row is the record set's, and both follow each other.
+#pragma once
+
+#include "platform/store/Recordset.h"
+
+#include <QTableView>
+
+#include <memory>
+#include <vector>
+
+struct GridColumn
+{
+    QString field;
+    QString caption;
+};
+
+class FormHost;
+
+class DataGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit DataGrid(QWidget *parent = nullptr);
+    ~DataGrid() override;
+
+    // No columns: all fields of the record set, each under its own name.
+    void setColumns(std::vector<GridColumn> columns);
+    void setCaption(int column, const QString &caption);
+    // The grid keeps the record set for as long as it shows it; null empties the grid.
+    void setDataSource(std::shared_ptr<Recordset> recordset);
+    std::shared_ptr<Recordset> dataSource() const;
+    void refresh();
+    // A faint background for some rows, for instance by meal; an invalid colour leaves the row as it is.
+    void setRowColour(std::function<QColor(const Recordset &, int row)> colour);
+    // Moves of the record set made by a click run inside this host's guard.
+    void setHost(FormHost *host);
+
+private:
+    struct Private;
+    std::unique_ptr<Private> m_private;
+};

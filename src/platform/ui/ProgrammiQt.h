@@ -1,0 +1,10 @@
+// Programs by what the desktop offers.
+#pragma once
+
+#include "platform/environment/Programmi.h"
+
+class ProgrammiQt : public Programmi
+{
+public:
+    void start(ProgramKind kind, const QString &target) override;
+};
