@@ -5,8 +5,8 @@
 #include <QDateTime>
 #include <QString>
 
-QString TestoData(QDate day);                 // dd/mm/yyyy
-QString TestoDataOra(const QDateTime &when);  // dd/mm/yyyy HH:mm:ss
+QString TestoData(QDate day);                // dd/mm/yyyy
+QString TestoDataOra(const QDateTime &when); // dd/mm/yyyy HH:mm:ss
 // A day text, day first: d/m/yyyy, also with - or . between; four digits of the year and a real day.
 // Throws Failure(TypeMismatch) where `text` is no date.
 QDate CDate(const QString &text);

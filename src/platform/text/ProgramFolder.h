@@ -10,11 +10,11 @@ public:
     explicit ProgramFolder(const QString &path);
 
     const QString &path() const { return m_path; }
-    QString resolve(const QString &told) const;     // native, absolute
-    bool fileExists(const QString &told) const;     // a regular file that is not hidden
+    QString resolve(const QString &told) const; // native, absolute
+    bool fileExists(const QString &told) const; // a regular file that is not hidden
     bool folderExists(const QString &told) const;
-    void makeFolder(const QString &told) const;     // throws Failure(PathAccess)
-    void deleteFile(const QString &told) const;     // a file that is not there throws Failure(FileNotFound)
+    void makeFolder(const QString &told) const; // throws Failure(PathAccess)
+    void deleteFile(const QString &told) const; // a file that is not there throws Failure(FileNotFound)
 
     // Any native or backslashed path, outside the program folder too, resolved in the same way.
     static QString resolveAbsolute(const QString &path);

@@ -5,27 +5,40 @@
 #include <QString>
 #include <QStringList>
 
-enum class TextEncoding {
+enum class TextEncoding
+{
     Settings, // windows-1252, or UTF-8 with a byte order mark where a character does not fit
     CodePage, // always windows-1252, '?' for what does not fit: prints and pages
 };
 
-// Collects lines and writes the file in one go. The file is opened (and so replaced) by the constructor, which throws
-// Failure(PathNotFound or PathAccess); what was printed so far is in the file also when the writer is destroyed by an
-// exception.
+// Collects lines and writes the file in one go, at close or at the latest when it is destroyed (also by an exception:
+// what was printed so far is then in the file). The constructor throws Failure(PathNotFound or PathAccess) where the
+// file cannot be written.
+//
+// A settings file is replaced only by a complete new one, so that a full disk leaves the old one as it was. A code page
+// file is emptied by the constructor and shows afterwards how far its writing came.
 class TextWriter
 {
 public:
-    enum class Mode { Output, Append };
+    enum class Mode
+    {
+        Output,
+        Append
+    };
     explicit TextWriter(const QString &path, TextEncoding encoding = TextEncoding::Settings, Mode mode = Mode::Output);
     ~TextWriter();
     TextWriter(const TextWriter &) = delete;
     TextWriter &operator=(const TextWriter &) = delete;
 
     void line(const QString &text); // and CR LF
-    void close();                   // throws Failure(PathAccess) where the disk is full
+    void close();                   // throws Failure(PathAccess) where the disk is full; a second close does nothing
 
 private:
+    QByteArray encoded() const;
+    void replaceFile(const QByteArray &bytes) const;
+    void writeTo(const QByteArray &bytes, bool append) const;
+    void append() const;
+
     QString m_path;
     TextEncoding m_encoding;
     Mode m_mode;
@@ -33,11 +46,11 @@ private:
     bool m_open = false;
 };
 
-// Reads a text file whole: CR LF or LF, windows-1252 or UTF-8 with a byte order mark.
+// Reads a text file whole: CR LF or LF, windows-1252 or UTF-8 with a byte order mark. A last line needs no line end.
 class TextReader
 {
 public:
-    explicit TextReader(const QString &path); // throws Failure(FileNotFound)
+    explicit TextReader(const QString &path); // throws Failure(FileNotFound or PathAccess)
     bool atEnd() const;
     QString line(); // throws Failure(InputPastEnd)
 
