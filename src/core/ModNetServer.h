@@ -46,6 +46,8 @@ struct ModNetServer
 
     QString PiattoSostituto; // dish handed between the daily sheet and Sostituti
     QString NomeScelto;      // person picked in InserimentoKCal
+    QString PercorsoDbReport; // line 2 of INI\Report.ini, the archive of the reports
+    bool MessaggioVisto = false; // the administrator's last notice, where that was a yes/no text
     int LivelloUtente = 0;   // never set
     bool ModoSistema = false; // never set
 
