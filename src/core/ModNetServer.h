@@ -25,11 +25,11 @@ struct ModNetServer
     // Shared by many routines, which re-create it before each use and never keep it across a user action.
     std::shared_ptr<Recordset> RsComune;
 
-    QString PercorsoDbSistema; // full path of the system archive, or empty
-    QString PercorsoDbDati;    // full path of the data archive
-    QString NomeDbDati;        // its file name with the extension
-    QString CartellaDbDati;    // its folder
-    QString RigaLetta;         // scratch buffer; means nothing between operations
+    QString PercorsoDbSistema;   // full path of the system archive, or empty
+    QString PercorsoDbDati;      // full path of the data archive
+    QString NomeDbDati;          // its file name with the extension
+    QString CartellaDbDati;      // its folder
+    QString RigaLetta;           // scratch buffer; means nothing between operations
     bool NetProc = false;        // never set to true
     bool ConnessioneDsn = false; // never set to true
 
@@ -44,12 +44,13 @@ struct ModNetServer
     QString TestoAttesa2;
     QString TestoAttesa3;
 
-    QString PiattoSostituto; // dish handed between the daily sheet and Sostituti
-    QString NomeScelto;      // person picked in InserimentoKCal
-    QString PercorsoDbReport; // line 2 of INI\Report.ini, the archive of the reports
+    QString PiattoSostituto;     // dish handed between the daily sheet and Sostituti
+    QString NomeScelto;          // person picked in InserimentoKCal
+    QString PercorsoDbReport;    // line 2 of INI\Report.ini, the archive of the reports
     bool MessaggioVisto = false; // the administrator's last notice, where that was a yes/no text
-    int LivelloUtente = 0;   // never set
-    bool ModoSistema = false; // never set
+    int LivelloUtente = 0;       // never set
+    bool ModoSistema = false;    // never set
+    bool ErroreAVideo = false;   // the dialog "Errore Generico" is up
 
     // The open data connection; throws Failure(ConnectionClosed) where it was never opened.
     Connection &dati();

@@ -21,11 +21,11 @@ class Schermate
 {
 public:
     virtual ~Schermate() = default;
-    virtual void mostraGestioneRete() = 0;                          // modal, released afterwards
-    virtual void percorsoNellaBarra(const QString &path) = 0;       // panel 1 of sb on Menu
+    virtual void mostraGestioneRete() = 0;                    // modal, released afterwards
+    virtual void percorsoNellaBarra(const QString &path) = 0; // panel 1 of sb on Menu
     // The error image of Sfondo and the two panels of its status bar, from panel 4 on.
     virtual void erroreSuSfondo(const QString &panel, const QString &nextPanel) = 0;
-    virtual QString pannelloSfondo(int panel) = 0;                  // status bar of Sfondo
+    virtual QString pannelloSfondo(int panel) = 0; // status bar of Sfondo
     virtual void setPannelloSfondo(int panel, const QString &text) = 0;
-    virtual BarraDelPianificatore &barra() = 0;                     // GeneraMenu
+    virtual BarraDelPianificatore &barra() = 0; // GeneraMenu
 };

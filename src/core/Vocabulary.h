@@ -10,7 +10,7 @@ inline const QString Spuntino = QStringLiteral("Spuntino");
 inline const QString Pranzo = QStringLiteral("Pranzo");
 inline const QString Cena = QStringLiteral("Cena");
 inline const QString Menu = QStringLiteral("Menu");
-}
+} // namespace Pasto
 
 const QStringList &Tipi();             // Sostituisci.tipo, in the order of the combo boxes
 const QStringList &Categorie12();      // Sostituisci.Categoria as the favourites' combo lists them
