@@ -17,12 +17,17 @@ QByteArray bytesOf(const QString &path)
     return file.readAll();
 }
 
+QString script(const QString &schema)
+{
+    return QString::fromUtf8(bytesOf(QStringLiteral(CIBRA_SOURCE_DIR "/archive/") + schema));
+}
+
 // An empty archive is always the same, so it is made once for a test program and then copied.
 QByteArray emptyArchive(const QString &schema)
 {
     const TemporaryFolder folder;
     const QString path = folder.path("Vuoto.Mdb");
-    makeArchive(path, QString::fromUtf8(bytesOf(QStringLiteral(CIBRA_SOURCE_DIR "/archive/") + schema)));
+    makeArchive(path, script(schema));
     return bytesOf(path);
 }
 
@@ -55,6 +60,11 @@ void makeTestSystemArchive(const QString &path)
 {
     static const QByteArray kEmpty = emptyArchive(QStringLiteral("schema-sistema.sql"));
     writeFile(path, kEmpty);
+}
+
+void makeProtectedTestArchive(const QString &path, const QString &password)
+{
+    makeArchive(path, script(QStringLiteral("schema.sql")), password);
 }
 
 void insertRows(Connection &connection, const QString &table, const QString &columns, const QStringList &rows)

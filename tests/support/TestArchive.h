@@ -8,6 +8,8 @@
 // Make an empty archive at `path`: of a household, with every table of archive/schema.sql, or the system one.
 void makeTestArchive(const QString &path);
 void makeTestSystemArchive(const QString &path);
+// The same of a household, encrypted.
+void makeProtectedTestArchive(const QString &path, const QString &password);
 
 // Puts rows into `table`: `columns` joined by ", ", each row a text of values joined by ", " as a statement spells
 // them: 'Pasta', 350, Null, #3/2/2025#, True.
