@@ -190,7 +190,11 @@ void ApriDbDati(ModNetServer &modulo, const QString &Percorso)
 
 void AssicuraCartellaIni(ModNetServer &modulo)
 {
-    const ProgramFolder &folder = modulo.mondo.folder;
+    AssicuraCartellaIni(modulo.mondo.folder);
+}
+
+void AssicuraCartellaIni(const ProgramFolder &folder)
+{
     if (folder.folderExists(QStringLiteral("\\INI")))
         return;
     folder.makeFolder(QStringLiteral("\\INI"));
@@ -202,10 +206,16 @@ void AssicuraCartellaIni(ModNetServer &modulo)
 
 void ScriviGestioneRete(ModNetServer &modulo, const QString &folder, const QString &file)
 {
+    ScriviGestioneRete(modulo.mondo.folder, modulo.NetProc ? modulo.PercorsoDbSistema : QString(), folder, file);
+}
+
+void ScriviGestioneRete(const ProgramFolder &programma, const QString &sistema, const QString &folder,
+                        const QString &file)
+{
     const QString rule(53, u'#');
-    TextWriter writer(modulo.mondo.folder.resolve(kLocations));
+    TextWriter writer(programma.resolve(kLocations));
     writer.line(QStringLiteral("[Gestione database]"));
-    writer.line(modulo.NetProc ? modulo.PercorsoDbSistema : QString());
+    writer.line(sistema);
     writer.line(QStringLiteral("[Gestione database Aziendale]"));
     writer.line(folder + u'\\' + file);
     writer.line(file);

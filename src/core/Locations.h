@@ -15,5 +15,9 @@ void ApriDbSistema(ModNetServer &modulo, const QString &Percorso);
 void ApriDbDati(ModNetServer &modulo, const QString &Percorso);
 // Makes the folder INI with SDIForm.ini where it is not there.
 void AssicuraCartellaIni(ModNetServer &modulo);
+void AssicuraCartellaIni(const ProgramFolder &folder);
 // Writes GestioneRete.INI: the native folder, "\" and the file name; line 2 stays empty while NetProc is false.
 void ScriviGestioneRete(ModNetServer &modulo, const QString &folder, const QString &file);
+// The same for a program that is not running: in the program folder `programma`, `sistema` being line 2.
+void ScriviGestioneRete(const ProgramFolder &programma, const QString &sistema, const QString &folder,
+                        const QString &file);
