@@ -1,10 +1,9 @@
-// A status bar of numbered panels (from 1) that can be clicked, hidden and disabled one by one. The widget of panel N
-// of the bar NAME has the objectName NAME_N.
+// A status bar of numbered panels (from 1) that can be clicked, hidden and disabled one by one.
 #pragma once
 
 #include <QStatusBar>
 
-#include <vector>
+class QLabel;
 
 class StatusPanels : public QStatusBar
 {
@@ -15,7 +14,7 @@ public:
 
     int addPanel(const QString &text = {}, const QString &toolTip = {}, int stretch = 0); // its number
     int panelCount() const;
-    QString panelText(int panel) const; // whole, also where it is shown elided; empty where there is no such panel
+    QString panelText(int panel) const;
     void setPanelText(int panel, const QString &text); // elided in the middle where it does not fit; whole as tool tip
     void setPanelVisible(int panel, bool visible);
     void setPanelEnabled(int panel, bool enabled);
@@ -24,11 +23,4 @@ public:
 
 signals:
     void panelClicked(int panel);
-
-private:
-    class Panel;
-    Panel *panelAt(int panel) const;
-    void namePanels();
-
-    std::vector<Panel *> m_panels;
 };

@@ -1,0 +1,141 @@
+// The tool from its command line.
+#include "CreaArchivio.h"
+#include "platform/store/Connection.h"
+#include "support/Printers.h"
+#include "support/TemporaryFolder.h"
+#include "support/TestArchive.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+struct Run
+{
+    int status = -1;
+    QString out;
+    QString err;
+};
+
+Run archivio(const QStringList &arguments, const QByteArray &input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(CIBRA_ARCHIVIO), arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+class CibraArchivioTest : public ::testing::Test
+{
+protected:
+    TemporaryFolder folder;
+    QString path = folder.path("famiglia.db");
+
+    QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
+};
+
+TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
+{
+    const Run help = archivio({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.err, "");
+    for (const char *command :
+         {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "verifica FILE", "proteggi FILE"})
+        EXPECT_TRUE(help.out.contains(command)) << command;
+}
+
+TEST_F(CibraArchivioTest, AWrongCommandLineIsStatusTwoAndShowsTheHelp)
+{
+    const QString help = archivio({"--help"}).out;
+    for (const QStringList &arguments : {QStringList(), QStringList("nuovo"), QStringList({"nuovo", ""}),
+                                         QStringList({"nuovo", path, path}), QStringList({"cancella", path})}) {
+        const Run wrong = archivio(arguments);
+        EXPECT_EQ(wrong.status, 2) << arguments.join(' ').toStdString();
+        EXPECT_EQ(wrong.err, help);
+        EXPECT_EQ(wrong.out, "");
+    }
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(CibraArchivioTest, WhatItMakesPassesItsOwnCheck)
+{
+    for (const char *command : {"nuovo", "esempio", "sistema"}) {
+        const QString made = folder.path(command);
+        EXPECT_EQ(archivio({command, made}).status, 0) << command;
+        const Run check = archivio({"verifica", made});
+        EXPECT_EQ(check.status, 0) << command;
+        EXPECT_EQ(check.out, QString("L'archivio \"%1\" è in ordine.\n").arg(made));
+    }
+    EXPECT_EQ(files(), QStringList({"esempio", "nuovo", "sistema"}));
+}
+
+TEST_F(CibraArchivioTest, AFileThatIsThereIsNeverOverwritten)
+{
+    folder.write("famiglia.db", "di qualcuno");
+    for (const char *command : {"nuovo", "esempio", "sistema"}) {
+        const Run refused = archivio({command, path});
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_EQ(refused.err, QString("cibra-archivio: Il file \"%1\" esiste già\n").arg(path));
+    }
+    EXPECT_EQ(folder.read("famiglia.db"), "di qualcuno");
+    EXPECT_EQ(files(), QStringList("famiglia.db"));
+}
+
+TEST_F(CibraArchivioTest, AFolderThatIsNotThereIsToldAndNothingIsLeft)
+{
+    const Run refused = archivio({"esempio", folder.path("manca/famiglia.db")});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err.toStdString(), ::testing::StartsWith("cibra-archivio: "));
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(CibraArchivioTest, FaultsAreALineEachAndStatusOne)
+{
+    creaArchivioNuovo(path);
+    {
+        Connection archive;
+        ASSERT_TRUE(archive.Open(path));
+        archive.Execute("DROP TABLE Menu");
+        archive.Execute("DROP TABLE alimenti2");
+    }
+    const Run check = archivio({"verifica", path});
+    EXPECT_EQ(check.status, 1);
+    EXPECT_EQ(check.out, "Manca la tabella \"Menu\"\nManca la tabella \"alimenti2\"\n");
+}
+
+TEST_F(CibraArchivioTest, AProtectedArchiveIsCheckedWithThePasswordFromTheInput)
+{
+    creaArchivioNuovo(path);
+    const Run protect = archivio({"proteggi", path}, "perché no?\nperché no?\n");
+    EXPECT_EQ(protect.status, 0) << protect.err.toStdString();
+    EXPECT_EQ(protect.out, QString("L'archivio \"%1\" è protetto.\n").arg(path));
+
+    EXPECT_EQ(archivio({"verifica", path}, "perché no?\n").status, 0);
+    for (const char *input : {"", "\n", "altra\n"}) {
+        const Run refused = archivio({"verifica", path}, input);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_EQ(refused.out, "L'archivio è protetto e la password manca o non è quella giusta\n");
+    }
+    Connection archive;
+    EXPECT_TRUE(archive.Open(path, "perché no?"));
+}
+
+TEST_F(CibraArchivioTest, TwoPasswordsThatDifferProtectNothing)
+{
+    creaArchivioNuovo(path);
+    const QByteArray before = folder.read("famiglia.db");
+    const Run refused = archivio({"proteggi", path}, "una\naltra\n");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, "cibra-archivio: Le due password sono diverse\n");
+    EXPECT_EQ(archivio({"proteggi", path}, "una\n").status, 1);
+    EXPECT_EQ(folder.read("famiglia.db"), before);
+}
+
+} // namespace

@@ -1,0 +1,46 @@
+#include "FileProvvisorio.h"
+
+#include "platform/Failure.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+namespace {
+
+QString nomeLibero(const QString &path)
+{
+    const QString base = QStringLiteral("%1.%2-").arg(path).arg(QCoreApplication::applicationPid());
+    int number = 1;
+    while (QFileInfo::exists(base + QString::number(number)))
+        ++number;
+    return base + QString::number(number);
+}
+
+} // namespace
+
+FileProvvisorio::FileProvvisorio(const QString &path) : m_finalPath(path), m_path(nomeLibero(path)) {}
+
+FileProvvisorio::~FileProvvisorio()
+{
+    for (const char *tail : {"", "-wal", "-shm", "-journal"})
+        QFile::remove(m_path + QLatin1String(tail));
+}
+
+void FileProvvisorio::diventaNuovo() const
+{
+    if (!QFile::rename(m_path, m_finalPath))
+        throw Failure(FailureNumber::PathAccess,
+                      QStringLiteral("Il file \"%1\" non si può creare o esiste già").arg(m_finalPath));
+}
+
+void FileProvvisorio::sostituisciOriginale() const
+{
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(m_finalPath).constData(), error);
+    if (error)
+        throw Failure(FailureNumber::PathAccess,
+                      QStringLiteral("Il file \"%1\" non si può sostituire").arg(m_finalPath));
+}

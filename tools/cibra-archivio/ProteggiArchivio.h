@@ -1,0 +1,9 @@
+// Gives a plain archive a password.
+#pragma once
+
+#include <QString>
+
+// Encrypts the archive in place: a copy beside it is encrypted, opened again with the password, compared with the
+// original and only then put in its place. Throws Failure, the original being as it was: where it is no sound plain
+// archive, where another program has it open, where the copy cannot be written, or where `password` is empty.
+void proteggiArchivio(const QString &path, const QString &password);
