@@ -7,7 +7,12 @@
 
 #include <memory>
 
-enum class OpenOutcome { Aperto, PasswordRichiesta, Errore };
+enum class OpenOutcome
+{
+    Aperto,
+    PasswordRichiesta,
+    Errore
+};
 
 struct OpenResult
 {
@@ -39,6 +44,9 @@ public:
     // Whether `name` is a table or stored query of this archive (case does not matter).
     bool hasTable(const QString &name) const;
 
+    // How long a statement waits for another program that is writing; 5 seconds unless told.
+    void setLockWait(int milliseconds);
+
     struct Private; // the engine's side, for the files of this folder alone
     Private &engine() const { return *m_private; }
 
@@ -46,8 +54,11 @@ private:
     std::unique_ptr<Private> m_private;
 };
 
+class Database;
+
 // While one of these lives, writes are committed in groups instead of one by one. It always commits, on failure too,
-// and never rolls back: what was written stays written. Scopes may nest; the outermost one decides.
+// and never rolls back: what was written stays written. Scopes may nest; the outermost one decides. Where the last
+// commit fails, the connection's next statement throws that failure.
 class GruppoScritture
 {
 public:
@@ -57,5 +68,5 @@ public:
     GruppoScritture &operator=(const GruppoScritture &) = delete;
 
 private:
-    Connection &m_connection;
+    std::weak_ptr<Database> m_database; // the archive may be closed while the scope lives
 };

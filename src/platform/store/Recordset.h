@@ -24,9 +24,9 @@
 
 struct FieldInfo
 {
-    QString name;          // spelled as the table declares it
+    QString name; // spelled as the table declares it
     ColumnType type = ColumnType::Text;
-    int definedSize = 0;   // characters of a text column, 0 where none is declared
+    int definedSize = 0; // characters of a text column, 0 where none is declared
 };
 
 class Recordset : public QObject
@@ -34,7 +34,8 @@ class Recordset : public QObject
     Q_OBJECT
 
 public:
-    enum class Access {
+    enum class Access
+    {
         Updatable,  // where the statement allows it: one table, no grouping
         ReadOnly,   // AddNew and writes throw NotPermitted
         AppendOnly, // no row is read: the set is there to be added to
@@ -98,8 +99,8 @@ public:
     bool isUpdatable() const;
 
 signals:
-    void opened();          // Open, Requery, Close, setFilter: every row may be another
-    void moveComplete();    // after every move, also after those that Open, Requery, AddNew and Delete make
+    void opened();       // Open, Requery, Close, setFilter: every row may be another
+    void moveComplete(); // after every move, also after those that Open, Requery, AddNew and Delete make
     void rowChanged(int row);
     void rowInserted(int row);
     void rowRemoved(int row);

@@ -7,7 +7,15 @@
 #include <variant>
 
 // The type numbers that a field reports.
-enum class ColumnType : int { Long = 3, Number = 5, Date = 7, Boolean = 11, Text = 202, Memo = 203 };
+enum class ColumnType : int
+{
+    Long = 3,
+    Number = 5,
+    Date = 7,
+    Boolean = 11,
+    Text = 202,
+    Memo = 203
+};
 
 class Value
 {

@@ -23,7 +23,7 @@ public:
     }
 
     Control *operator[](int index) const { return m_controls.at(index); } // throws where there is no such element
-    auto begin() const { return m_controls.begin(); } // pairs of index and control
+    auto begin() const { return m_controls.begin(); }                     // pairs of index and control
     auto end() const { return m_controls.end(); }
     int size() const { return int(m_controls.size()); }
 

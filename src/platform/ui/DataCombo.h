@@ -17,7 +17,15 @@ public:
     QString text() const { return currentText(); }
     void setText(const QString &text); // textChanged comes only where the text differs; no item is picked
 
+    void showPopup() override; // opens at the item that the text names
+
 signals:
     void picked();      // an item was picked from the list by the user; textChanged does not come for the same pick
     void textChanged(); // the text changed otherwise: by typing or by setText
+
+protected:
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void showText(const QString &text, int index);
 };

@@ -1,18 +1,13 @@
-// A grid bound to a record set: its current row is the record set's, and both follow each other.
+// A grid bound to a record set: its current row is the record set's, and both follow each other. It is read-only.
 #pragma once
 
 #include "platform/store/Recordset.h"
+#include "platform/ui/RecordsetModel.h"
 
 #include <QTableView>
 
 #include <memory>
 #include <vector>
-
-struct GridColumn
-{
-    QString field;
-    QString caption;
-};
 
 class FormHost;
 
@@ -33,10 +28,22 @@ public:
     void refresh();
     // A faint background for some rows, for instance by meal; an invalid colour leaves the row as it is.
     void setRowColour(std::function<QColor(const Recordset &, int row)> colour);
-    // Moves of the record set made by a click run inside this host's guard.
+    // Moves of the record set made by the user run inside this host's guard; without it, in that of the form around.
     void setHost(FormHost *host);
+    // The data field of a column, for whoever reads the grid by program.
+    QString columnField(int column) const;
+
+protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void followRecordset();
+    void moveRecordset(int row);
+    void fitColumns();
+    void fillWidth();
+    FormHost *host() const;
+
     struct Private;
     std::unique_ptr<Private> m_private;
 };

@@ -7,8 +7,8 @@ class QApplication;
 
 namespace Tema {
 void apply(QApplication &application);
-QColor accent();       // warm orange of the background screen
-QColor firstPerson();  // discreet colours of the two persons, for captions
+QColor accent();      // warm orange of the background screen
+QColor firstPerson(); // discreet colours of the two persons, for captions
 QColor secondPerson();
 QColor meal(const QString &meal); // faint row colour of a meal kind of the daily sheet; invalid where there is none
-}
+} // namespace Tema

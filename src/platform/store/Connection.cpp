@@ -1,0 +1,69 @@
+#include "platform/store/Connection.h"
+
+#include "platform/store/ConnectionPrivate.h"
+#include "platform/store/OpenArchive.h"
+
+#include <utility>
+
+Database &Connection::Private::opened() const
+{
+    if (!database)
+        throw Failure::usual(FailureNumber::ConnectionClosed);
+    return *database;
+}
+
+Connection::Connection() : m_private(std::make_unique<Private>()) {}
+
+Connection::~Connection() = default;
+
+OpenResult Connection::Open(const QString &path, const QString &password)
+{
+    Close();
+    OpenedArchive archive = openArchive(path, password);
+    m_private->path = path;
+    m_private->database = std::move(archive.database);
+    return archive.result;
+}
+
+void Connection::Close()
+{
+    m_private->database.reset();
+    m_private->path.clear();
+}
+
+bool Connection::isOpen() const
+{
+    return m_private->database != nullptr;
+}
+
+QString Connection::path() const
+{
+    return m_private->path;
+}
+
+qint64 Connection::Execute(const QString &statement)
+{
+    return m_private->opened().execute(statement);
+}
+
+bool Connection::hasTable(const QString &name) const
+{
+    return m_private->opened().table(name) != nullptr;
+}
+
+void Connection::setLockWait(int milliseconds)
+{
+    sqlite3_busy_timeout(m_private->opened().handle(), milliseconds);
+}
+
+GruppoScritture::GruppoScritture(Connection &connection) : m_database(connection.engine().database)
+{
+    if (const auto database = m_database.lock())
+        database->group().enter();
+}
+
+GruppoScritture::~GruppoScritture()
+{
+    if (const auto database = m_database.lock())
+        database->group().leave();
+}

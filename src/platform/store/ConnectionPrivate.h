@@ -1,0 +1,15 @@
+// The engine's side of a connection, for the files of this folder alone.
+#pragma once
+
+#include "platform/store/Connection.h"
+#include "platform/store/Database.h"
+
+#include <memory>
+
+struct Connection::Private
+{
+    QString path;
+    std::shared_ptr<Database> database; // null while closed
+
+    Database &opened() const; // throws Failure(ConnectionClosed)
+};

@@ -1,0 +1,47 @@
+// An open archive on the engine's side: its handle, the statements kept ready, and what is known of its tables.
+#pragma once
+
+#include "platform/store/ResultShape.h"
+#include "platform/store/RowWriter.h"
+#include "platform/store/StatementCache.h"
+#include "platform/store/TableInfo.h"
+#include "platform/store/WriteGroup.h"
+
+#include <QHash>
+#include <QString>
+
+#include <memory>
+
+class Database
+{
+public:
+    explicit Database(sqlite3 *handle); // which it owns
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    sqlite3 *handle() const { return m_handle.get(); }
+    WriteGroup &group() { return m_group; }
+
+    // The Jet statement translated, prepared and with its values bound. Throws Failure(Engine).
+    PreparedStatement &prepare(const QString &statement);
+    // The rows that it changed.
+    qint64 execute(const QString &statement);
+    const std::shared_ptr<const ResultShape> &shapeOf(PreparedStatement &prepared);
+
+    std::shared_ptr<const TableInfo> table(const QString &name);
+    RowWriter &writer(const std::shared_ptr<const TableInfo> &table);
+
+private:
+    struct Closer
+    {
+        void operator()(sqlite3 *handle) const;
+    };
+    void forgetTables();
+
+    std::unique_ptr<sqlite3, Closer> m_handle;
+    WriteGroup m_group;
+    StatementCache m_statements;
+    QHash<QString, std::shared_ptr<const TableInfo>> m_tables; // by lower-case name
+    QHash<QString, std::shared_ptr<RowWriter>> m_writers;      // by declared name
+};

@@ -1,0 +1,201 @@
+#include "platform/store/OpenArchive.h"
+
+#include "platform/store/EngineFailure.h"
+#include "platform/store/JetFunctions.h"
+#include "platform/store/Statement.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <utility>
+
+namespace {
+
+constexpr QByteArrayView kPlainHeader("SQLite format 3");
+constexpr qint64 kEncryptedPage = 1024;
+constexpr int kLockWait = 5000; // milliseconds for another program to give its lock back
+
+enum class Mode
+{
+    Usual,
+    Unchanging
+};
+
+struct Handle
+{
+    sqlite3 *handle = nullptr;
+    int rc = SQLITE_OK;
+};
+
+OpenedArchive refused(OpenOutcome outcome, FailureNumber number, const QString &words)
+{
+    return {{outcome, int(number), words}, nullptr};
+}
+
+OpenedArchive refused(const Failure &failure)
+{
+    return refused(OpenOutcome::Errore, failure.number(), failure.words());
+}
+
+QByteArray unchangingUri(const QString &path)
+{
+    return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded() + "?immutable=1";
+}
+
+Handle openHandle(const QString &path, Mode mode)
+{
+    Handle opened;
+    if (mode == Mode::Usual)
+        opened.rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &opened.handle,
+                                    SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    else
+        opened.rc = sqlite3_open_v2(unchangingUri(path).constData(), &opened.handle,
+                                    SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
+    return opened;
+}
+
+// The failures that say that the file itself is no good, whatever the statement.
+bool isDamage(int rc)
+{
+    switch (rc & 0xff) {
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_IOERR:
+        return true;
+    default:
+        return false;
+    }
+}
+
+int runToEnd(sqlite3 *handle, const QByteArray &sql)
+{
+    return sqlite3_exec(handle, sql.constData(), nullptr, nullptr, nullptr);
+}
+
+// The names of the tables; reading them reads the whole schema.
+int readTableNames(sqlite3 *handle, QByteArrayList &names)
+{
+    const auto collect = [](void *list, int, char **texts, char **) {
+        static_cast<QByteArrayList *>(list)->append(texts[0]);
+        return 0;
+    };
+    return sqlite3_exec(handle, "SELECT name FROM sqlite_master WHERE type = 'table'", collect, &names, nullptr);
+}
+
+int testRead(sqlite3 *handle)
+{
+    QByteArrayList names;
+    int rc = readTableNames(handle, names);
+    for (const QByteArray &name : names) {
+        if (rc != SQLITE_OK)
+            break;
+        const int read = runToEnd(handle, "SELECT * FROM " + quotedName(QString::fromUtf8(name)) + " LIMIT 1");
+        rc = isDamage(read) ? read : SQLITE_OK;
+    }
+    return rc;
+}
+
+// Settings of speed and safety; an archive that does not take one works without it.
+void settle(sqlite3 *handle)
+{
+    sqlite3_busy_timeout(handle, 0);
+    if (runToEnd(handle, "PRAGMA journal_mode=WAL") != SQLITE_OK)
+        runToEnd(handle, "PRAGMA journal_mode=DELETE");
+    runToEnd(handle, "PRAGMA synchronous=NORMAL");
+    runToEnd(handle, "PRAGMA cache_size=-16000");
+    sqlite3_busy_timeout(handle, kLockWait);
+}
+
+class Opening
+{
+public:
+    Opening(const QString &path, const QString &password) : m_path(path), m_password(password) {}
+
+    OpenedArchive run()
+    {
+        const QFileInfo info(m_path);
+        if (!info.isFile())
+            return refused(Failure::usual(FailureNumber::FileNotFound, m_path));
+        m_size = info.size();
+        QFile file(m_path);
+        if (!file.open(QIODevice::ReadOnly))
+            return refused(
+                Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + m_path));
+        m_plain = file.read(kPlainHeader.size()) == kPlainHeader;
+        if (m_size == 0)
+            return refused(Failure(FailureNumber::Engine, QStringLiteral("Il file è vuoto, non è un archivio")));
+        return openAndTest();
+    }
+
+private:
+    OpenedArchive openAndTest()
+    {
+        OpenedArchive opened = attempt(Mode::Usual);
+        // The journal kept beside an archive cannot be made in a folder that may not be written.
+        if (!opened.result && (m_lastCode == SQLITE_CANTOPEN || m_lastCode == SQLITE_READONLY) && nothingInJournal())
+            opened = attempt(Mode::Unchanging);
+        return opened;
+    }
+
+    bool nothingInJournal() const { return QFileInfo(m_path + QStringLiteral("-wal")).size() == 0; }
+
+    OpenedArchive attempt(Mode mode)
+    {
+        const Handle opened = openHandle(m_path, mode);
+        auto database = std::make_shared<Database>(opened.handle);
+        sqlite3 *const handle = opened.handle;
+        int rc = opened.rc;
+        if (rc == SQLITE_OK) {
+            sqlite3_extended_result_codes(handle, 1);
+            sqlite3_busy_timeout(handle, kLockWait);
+            teachEngine(handle);
+            giveKey(handle);
+            rc = testRead(handle);
+        }
+        m_lastCode = rc & 0xff;
+        if (rc != SQLITE_OK)
+            return failed(handle, rc);
+        if (mode == Mode::Usual)
+            settle(handle);
+        return {{OpenOutcome::Aperto, 0, {}}, std::move(database)};
+    }
+
+    // A plain archive has no use for a password.
+    void giveKey(sqlite3 *handle) const
+    {
+        const QByteArray key = m_password.toUtf8();
+        if (!m_plain && !key.isEmpty())
+            sqlite3_key(handle, key.constData(), int(key.size()));
+    }
+
+    OpenedArchive failed(sqlite3 *handle, int rc) const
+    {
+        if ((rc & 0xff) == SQLITE_NOTADB && looksEncrypted())
+            return refused(OpenOutcome::PasswordRichiesta, FailureNumber::LoginRefused,
+                           m_password.isEmpty() ? QStringLiteral("L'archivio è protetto da una password")
+                                                : QStringLiteral("Password non valida"));
+        if ((rc & 0xff) == SQLITE_NOTADB && m_plain)
+            return refused(engineFailure(SQLITE_CORRUPT, QString::fromUtf8(sqlite3_errmsg(handle))));
+        return refused(engineFailure(handle, rc));
+    }
+
+    bool looksEncrypted() const { return !m_plain && m_size >= kEncryptedPage && m_size % kEncryptedPage == 0; }
+
+    QString m_path;
+    QString m_password;
+    qint64 m_size = 0;
+    bool m_plain = false;
+    int m_lastCode = SQLITE_OK;
+};
+
+} // namespace
+
+OpenedArchive openArchive(const QString &path, const QString &password)
+{
+    try {
+        return Opening(path, password).run();
+    } catch (const Failure &failure) {
+        return refused(failure);
+    }
+}

@@ -1,0 +1,205 @@
+#include "platform/ui/DataGrid.h"
+
+#include "platform/ui/Form.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMeasuredRows = 60; // enough to find good widths, whatever the length of the set
+constexpr int kWidest = 320;      // pixels; longer texts are elided
+constexpr int kCellPadding = 10;
+
+} // namespace
+
+struct DataGrid::Private
+{
+    RecordsetModel *model = nullptr;
+    FormHost *host = nullptr;
+    bool following = false;      // the current row is set because the record set moved
+    bool fitting = false;        // column widths are being set by the grid itself
+    bool sizedByUser = false;    // the user has dragged a column: its widths stay
+    std::vector<QString> fitted; // the fields that the widths were found for
+};
+
+DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_unique<Private>())
+{
+    m_private->model = new RecordsetModel(this);
+    setModel(m_private->model);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(true);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setShowGrid(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (!m_private->fitting)
+            m_private->sizedByUser = true;
+    });
+    connect(m_private->model, &QAbstractItemModel::modelReset, this, [this] {
+        fitColumns();
+        followRecordset();
+    });
+}
+
+DataGrid::~DataGrid()
+{
+    m_private->model->setRecordset(nullptr);
+}
+
+void DataGrid::setColumns(std::vector<GridColumn> columns)
+{
+    m_private->fitted.clear();
+    m_private->model->setColumns(std::move(columns));
+}
+
+void DataGrid::setCaption(int column, const QString &caption)
+{
+    m_private->model->setCaption(column, caption);
+    m_private->fitted.clear();
+    fitColumns();
+}
+
+void DataGrid::setDataSource(std::shared_ptr<Recordset> recordset)
+{
+    if (m_private->model->recordset())
+        m_private->model->recordset()->disconnect(this);
+    Recordset *const shown = recordset.get();
+    m_private->model->setRecordset(std::move(recordset));
+    if (shown)
+        connect(shown, &Recordset::moveComplete, this, &DataGrid::followRecordset);
+    followRecordset();
+}
+
+std::shared_ptr<Recordset> DataGrid::dataSource() const
+{
+    return m_private->model->recordset();
+}
+
+void DataGrid::refresh()
+{
+    m_private->model->refresh();
+    followRecordset();
+}
+
+void DataGrid::setRowColour(std::function<QColor(const Recordset &, int row)> colour)
+{
+    m_private->model->setRowColour(std::move(colour));
+}
+
+void DataGrid::setHost(FormHost *host)
+{
+    m_private->host = host;
+}
+
+QString DataGrid::columnField(int column) const
+{
+    const auto &columns = m_private->model->columns();
+    return column >= 0 && column < int(columns.size()) ? columns[std::size_t(column)].field : QString();
+}
+
+FormHost *DataGrid::host() const
+{
+    if (m_private->host)
+        return m_private->host;
+    const auto *form = qobject_cast<Form *>(window());
+    return form ? &form->host() : nullptr;
+}
+
+void DataGrid::followRecordset()
+{
+    const QScopedValueRollback following(m_private->following, true);
+    const std::shared_ptr<Recordset> recordset = dataSource();
+    const int row = recordset && recordset->isOpen() ? recordset->AbsolutePosition() - 1 : -1;
+    const QModelIndex current = currentIndex();
+    if (row < 0 || row >= model()->rowCount()) {
+        clearSelection();
+        setCurrentIndex({});
+    } else if (current.row() != row || !selectionModel()->isRowSelected(row)) {
+        setCurrentIndex(model()->index(row, std::max(current.column(), 0)));
+        selectRow(row);
+    }
+}
+
+// The view has moved to another row by mouse or key: the record set goes there too.
+void DataGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (m_private->following || !current.isValid() || current.row() == previous.row())
+        return;
+    FormHost *const guard = host();
+    const int row = current.row();
+    if (!guard) {
+        moveRecordset(row);
+        return;
+    }
+    guard->guarded([this, row] { moveRecordset(row); });
+    followRecordset(); // back again, where the move failed
+}
+
+void DataGrid::moveRecordset(int row)
+{
+    const std::shared_ptr<Recordset> recordset = dataSource();
+    if (!recordset || !recordset->isOpen() || recordset->AbsolutePosition() == row + 1)
+        return;
+    if (recordset->AbsolutePosition() < 1)
+        recordset->MoveFirst();
+    if (const int distance = row + 1 - recordset->AbsolutePosition())
+        recordset->Move(distance);
+}
+
+// Widths are found once for a set of columns, from the first rows; a new set of the same columns keeps them.
+void DataGrid::fitColumns()
+{
+    std::vector<QString> fields;
+    for (const GridColumn &column : m_private->model->columns())
+        fields.push_back(column.field);
+    if (fields == m_private->fitted && m_private->sizedByUser)
+        return;
+    if (fields != m_private->fitted)
+        m_private->sizedByUser = false;
+    {
+        const QScopedValueRollback fitting(m_private->fitting, true);
+        for (int column = 0; column < model()->columnCount(); ++column) {
+            const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+            setColumnWidth(column, std::min(wanted + kCellPadding, kWidest));
+        }
+    }
+    if (model()->rowCount() > 0)
+        m_private->fitted = fields;
+    fillWidth();
+}
+
+// What is left of the width goes to the text columns, in equal parts.
+void DataGrid::fillWidth()
+{
+    std::vector<int> texts;
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        if (!isColumnHidden(column) && !m_private->model->isNumber(column))
+            texts.push_back(column);
+    }
+    const int left = viewport()->width() - horizontalHeader()->length();
+    if (m_private->sizedByUser || texts.empty() || left <= 0)
+        return;
+    const QScopedValueRollback fitting(m_private->fitting, true);
+    const int count = int(texts.size());
+    for (int i = 0; i < count; ++i)
+        setColumnWidth(texts[std::size_t(i)], columnWidth(texts[std::size_t(i)]) + left / count + (i < left % count));
+}
+
+void DataGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    if (!m_private->sizedByUser)
+        fitColumns();
+}

@@ -1,0 +1,135 @@
+#include "platform/ui/RecordsetModel.h"
+
+RecordsetModel::RecordsetModel(QObject *parent) : QAbstractTableModel(parent) {}
+
+void RecordsetModel::setColumns(std::vector<GridColumn> columns)
+{
+    m_allFields = columns.empty();
+    m_columns = std::move(columns);
+    reset();
+}
+
+void RecordsetModel::setCaption(int column, const QString &caption)
+{
+    if (column < 0 || column >= columnCount())
+        return;
+    m_columns[std::size_t(column)].caption = caption;
+    emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
+void RecordsetModel::setRecordset(std::shared_ptr<Recordset> recordset)
+{
+    if (m_recordset)
+        m_recordset->disconnect(this);
+    m_recordset = std::move(recordset);
+    reset();
+    if (!m_recordset)
+        return;
+    connect(m_recordset.get(), &Recordset::opened, this, &RecordsetModel::reset);
+    connect(m_recordset.get(), &Recordset::rowChanged, this, [this](int row) {
+        if (row >= 0 && row < m_rows)
+            emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    });
+    connect(m_recordset.get(), &Recordset::rowInserted, this, [this](int row) {
+        beginInsertRows({}, row, row);
+        ++m_rows;
+        endInsertRows();
+    });
+    connect(m_recordset.get(), &Recordset::rowRemoved, this, [this](int row) {
+        beginRemoveRows({}, row, row);
+        --m_rows;
+        endRemoveRows();
+    });
+}
+
+void RecordsetModel::setRowColour(RowColour colour)
+{
+    m_colour = std::move(colour);
+    refresh();
+}
+
+void RecordsetModel::refresh()
+{
+    const int rows = m_recordset && m_recordset->isOpen() ? m_recordset->RecordCount() : 0;
+    if (rows != m_rows)
+        reset();
+    else if (rows > 0 && columnCount() > 0)
+        emit dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+}
+
+void RecordsetModel::reset()
+{
+    beginResetModel();
+    const bool open = m_recordset && m_recordset->isOpen();
+    if (m_allFields) {
+        m_columns.clear();
+        for (int i = 0; open && i < m_recordset->fieldCount(); ++i)
+            m_columns.push_back({m_recordset->field(i).name, m_recordset->field(i).name});
+    }
+    m_fields.assign(m_columns.size(), -1);
+    for (std::size_t i = 0; open && i < m_columns.size(); ++i) {
+        if (m_allFields)
+            m_fields[i] = int(i);
+        else if (m_recordset->hasField(m_columns[i].field))
+            m_fields[i] = m_recordset->fieldIndex(m_columns[i].field);
+    }
+    m_rows = open ? m_recordset->RecordCount() : 0;
+    endResetModel();
+}
+
+bool RecordsetModel::isNumber(int column) const
+{
+    const int field = m_fields[std::size_t(column)];
+    if (field < 0 || !m_recordset || !m_recordset->isOpen())
+        return false;
+    const ColumnType type = m_recordset->field(field).type;
+    return type == ColumnType::Number || type == ColumnType::Long;
+}
+
+int RecordsetModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : m_rows;
+}
+
+int RecordsetModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+// A set that was closed or shortened under the view shows nothing until its notice arrives.
+bool RecordsetModel::isShown(int row, int column) const
+{
+    return m_recordset && m_recordset->isOpen() && row < m_recordset->RecordCount() &&
+           m_fields[std::size_t(column)] >= 0;
+}
+
+QVariant RecordsetModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || !isShown(index.row(), index.column()))
+        return {};
+    switch (role) {
+    case Qt::DisplayRole:
+        return m_recordset->valueAt(index.row(), m_fields[std::size_t(index.column())]).text();
+    case Qt::TextAlignmentRole:
+        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
+    case Qt::BackgroundRole:
+        if (m_colour) {
+            const QColor colour = m_colour(*m_recordset, index.row());
+            return colour.isValid() ? QVariant(colour) : QVariant();
+        }
+        return {};
+    default:
+        return {};
+    }
+}
+
+QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+        return {};
+    if (role == Qt::DisplayRole)
+        return m_columns[std::size_t(section)].caption;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
+    return {};
+}
