@@ -74,11 +74,11 @@ TEST_F(CatalogoEsempioTest, ThePortionsOfADishAddUpToItsCalories)
 {
     EXPECT_EQ(rows("SELECT Piatto, KCalOndira, KCalTesmo, tipo, Categoria, Preferito, Ordine FROM Sostituisci"
                    " WHERE Piatto = 'Pasta al pesto'"),
-              QStringList("Pasta al pesto | 294,2 | 386,3 | Menu | Pasta - Minestra | True | 0"));
+              QStringList("Pasta al pesto | 294,2 | 386,3 | Menu | Pasta - Minestra | Vero | 0"));
     EXPECT_EQ(rows("SELECT DataInserimento, Alimento, KC100gr, quantita, KcNominale, Totale1, quantita2, KcNominale2,"
                    " Totale2 FROM Piatti WHERE Piatto = 'Pasta al pesto' ORDER BY ID"),
               QStringList({"01/03/2025 | Pasta di semola | 371 | 60 | 1100 | 222,6 | 80 | 1500 | 296,8",
-                           "01/03/2025 | Pesto alla genovese | 417 | 16 | 1100 | 66,72 | 20 | 1500 | 83,4",
+                           "01/03/2025 | Pesto alla genovese | 370 | 16 | 1100 | 59,2 | 20 | 1500 | 74",
                            "01/03/2025 | Fagiolini | 31 | 40 | 1100 | 12,4 | 50 | 1500 | 15,5"}));
 }
 

@@ -13,14 +13,14 @@
 
 namespace {
 
-struct Run
+struct Result
 {
     int status = -1;
     QString out;
     QString err;
 };
 
-Run archivio(const QStringList &arguments, const QByteArray &input = {})
+Result archivio(const QStringList &arguments, const QByteArray &input = {})
 {
     QProcess process;
     process.start(QStringLiteral(CIBRA_ARCHIVIO), arguments);
@@ -43,7 +43,7 @@ protected:
 
 TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
 {
-    const Run help = archivio({"--help"});
+    const Result help = archivio({"--help"});
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.err, "");
     for (const char *command :
@@ -56,7 +56,7 @@ TEST_F(CibraArchivioTest, AWrongCommandLineIsStatusTwoAndShowsTheHelp)
     const QString help = archivio({"--help"}).out;
     for (const QStringList &arguments : {QStringList(), QStringList("nuovo"), QStringList({"nuovo", ""}),
                                          QStringList({"nuovo", path, path}), QStringList({"cancella", path})}) {
-        const Run wrong = archivio(arguments);
+        const Result wrong = archivio(arguments);
         EXPECT_EQ(wrong.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(wrong.err, help);
         EXPECT_EQ(wrong.out, "");
@@ -69,7 +69,7 @@ TEST_F(CibraArchivioTest, WhatItMakesPassesItsOwnCheck)
     for (const char *command : {"nuovo", "esempio", "sistema"}) {
         const QString made = folder.path(command);
         EXPECT_EQ(archivio({command, made}).status, 0) << command;
-        const Run check = archivio({"verifica", made});
+        const Result check = archivio({"verifica", made});
         EXPECT_EQ(check.status, 0) << command;
         EXPECT_EQ(check.out, QString("L'archivio \"%1\" è in ordine.\n").arg(made));
     }
@@ -80,7 +80,7 @@ TEST_F(CibraArchivioTest, AFileThatIsThereIsNeverOverwritten)
 {
     folder.write("famiglia.db", "di qualcuno");
     for (const char *command : {"nuovo", "esempio", "sistema"}) {
-        const Run refused = archivio({command, path});
+        const Result refused = archivio({command, path});
         EXPECT_EQ(refused.status, 1);
         EXPECT_EQ(refused.err, QString("cibra-archivio: Il file \"%1\" esiste già\n").arg(path));
     }
@@ -90,7 +90,7 @@ TEST_F(CibraArchivioTest, AFileThatIsThereIsNeverOverwritten)
 
 TEST_F(CibraArchivioTest, AFolderThatIsNotThereIsToldAndNothingIsLeft)
 {
-    const Run refused = archivio({"esempio", folder.path("manca/famiglia.db")});
+    const Result refused = archivio({"esempio", folder.path("manca/famiglia.db")});
     EXPECT_EQ(refused.status, 1);
     EXPECT_THAT(refused.err.toStdString(), ::testing::StartsWith("cibra-archivio: "));
     EXPECT_EQ(files(), QStringList());
@@ -105,7 +105,7 @@ TEST_F(CibraArchivioTest, FaultsAreALineEachAndStatusOne)
         archive.Execute("DROP TABLE Menu");
         archive.Execute("DROP TABLE alimenti2");
     }
-    const Run check = archivio({"verifica", path});
+    const Result check = archivio({"verifica", path});
     EXPECT_EQ(check.status, 1);
     EXPECT_EQ(check.out, "Manca la tabella \"Menu\"\nManca la tabella \"alimenti2\"\n");
 }
@@ -113,13 +113,13 @@ TEST_F(CibraArchivioTest, FaultsAreALineEachAndStatusOne)
 TEST_F(CibraArchivioTest, AProtectedArchiveIsCheckedWithThePasswordFromTheInput)
 {
     creaArchivioNuovo(path);
-    const Run protect = archivio({"proteggi", path}, "perché no?\nperché no?\n");
+    const Result protect = archivio({"proteggi", path}, "perché no?\nperché no?\n");
     EXPECT_EQ(protect.status, 0) << protect.err.toStdString();
     EXPECT_EQ(protect.out, QString("L'archivio \"%1\" è protetto.\n").arg(path));
 
     EXPECT_EQ(archivio({"verifica", path}, "perché no?\n").status, 0);
     for (const char *input : {"", "\n", "altra\n"}) {
-        const Run refused = archivio({"verifica", path}, input);
+        const Result refused = archivio({"verifica", path}, input);
         EXPECT_EQ(refused.status, 1);
         EXPECT_EQ(refused.out, "L'archivio è protetto e la password manca o non è quella giusta\n");
     }
@@ -131,7 +131,7 @@ TEST_F(CibraArchivioTest, TwoPasswordsThatDifferProtectNothing)
 {
     creaArchivioNuovo(path);
     const QByteArray before = folder.read("famiglia.db");
-    const Run refused = archivio({"proteggi", path}, "una\naltra\n");
+    const Result refused = archivio({"proteggi", path}, "una\naltra\n");
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.err, "cibra-archivio: Le due password sono diverse\n");
     EXPECT_EQ(archivio({"proteggi", path}, "una\n").status, 1);

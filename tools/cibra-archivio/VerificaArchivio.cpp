@@ -118,6 +118,14 @@ bool unaTabellaDi(const Connection &archive, const QString &script)
     return false;
 }
 
+// The engine tells several faults in one text, under a heading.
+QStringList righeDi(const QStringList &told)
+{
+    QStringList lines = told.join('\n').split('\n', Qt::SkipEmptyParts);
+    lines.removeIf([](const QString &line) { return line.startsWith("***"); });
+    return lines;
+}
+
 Verifica guasto(const QString &words)
 {
     return {Verifica::Esito::Guasto, {words}};
@@ -138,7 +146,7 @@ Verifica verificaArchivio(const QString &path, const QString &password)
         return guasto(QStringLiteral("L'archivio non si apre: %1").arg(opened.words));
 
     QStringList faults;
-    for (const QString &line : integrityCheck(path, password))
+    for (const QString &line : righeDi(integrityCheck(path, password)))
         faults += QStringLiteral("Il file è danneggiato: %1").arg(line);
     const bool system = unaTabellaDi(archive, scriptSchemaSistema()) && !unaTabellaDi(archive, scriptSchema());
     faults += guastiDelloSchema(archive, system ? scriptSchemaSistema() : scriptSchema());
