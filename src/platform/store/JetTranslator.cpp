@@ -1,506 +1,262 @@
 #include "platform/store/JetTranslator.h"
 
 #include "platform/Failure.h"
+#include "platform/store/JetClauses.h"
 #include "platform/store/JetTokens.h"
-
-#include <QDate>
+#include "platform/store/JetWriter.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
+#include <utility>
 
 namespace {
 
-using Tokens = std::vector<JetToken>;
-using Kind = JetTokenKind;
+constexpr QStringView kKeyAlias = u"jet_key";
 
-JetToken word(const QString &text, bool blankBefore = true)
+enum class Key
 {
-    return {Kind::Word, blankBefore, 0, text};
-}
-
-JetToken sign(const char *text, bool blankBefore = false)
-{
-    return {Kind::Sign, blankBefore, 0, QString::fromLatin1(text)};
-}
-
-Tokens plain(std::initializer_list<const char *> words)
-{
-    Tokens tokens;
-    for (const char *text : words)
-        tokens.push_back(word(QString::fromLatin1(text)));
-    return tokens;
-}
-
-bool isName(const JetToken &token)
-{
-    return token.kind == Kind::Word || token.kind == Kind::Bracket;
-}
-
-QString bareName(const JetToken &token)
-{
-    return token.kind == Kind::Bracket ? token.text.mid(1, token.text.size() - 2) : token.text;
-}
-
-bool isCallOf(const Tokens &tokens, size_t i, const char *function)
-{
-    return tokens[i].is(function) && i + 1 < tokens.size() && tokens[i + 1].is("(");
-}
-
-// The position of the bracket that closes the one at `open`; the end where there is none.
-size_t closing(const Tokens &tokens, size_t open)
-{
-    int depth = 0;
-    for (size_t i = open; i < tokens.size(); ++i) {
-        if (tokens[i].is("("))
-            ++depth;
-        else if (tokens[i].is(")") && --depth == 0)
-            return i;
-    }
-    return tokens.size();
-}
-
-void insertAt(Tokens &tokens, size_t position, const Tokens &what)
-{
-    tokens.insert(tokens.begin() + std::ptrdiff_t(position), what.begin(), what.end());
-}
-
-void eraseRange(Tokens &tokens, size_t from, size_t to)
-{
-    tokens.erase(tokens.begin() + std::ptrdiff_t(from), tokens.begin() + std::ptrdiff_t(to));
-}
-
-// ---- Literals and names, the same in every statement ----
-
-// Month first; where only the second number can be a month, the day comes first.
-QDate dayOfLiteral(const QString &literal)
-{
-    const QStringList parts = literal.mid(1, literal.size() - 2).split('/');
-    if (parts.size() != 3)
-        return {};
-    std::array<int, 3> numbers{};
-    for (size_t i = 0; i < 3; ++i) {
-        bool isNumber = false;
-        numbers[i] = parts[qsizetype(i)].trimmed().toInt(&isNumber);
-        if (!isNumber)
-            return {};
-    }
-    if (numbers[0] > 12 && numbers[1] <= 12)
-        std::swap(numbers[0], numbers[1]);
-    return QDate(numbers[2], numbers[0], numbers[1]);
-}
-
-void rewriteDates(Tokens &tokens, const QString &statement)
-{
-    for (JetToken &token : tokens) {
-        if (token.kind != Kind::Date)
-            continue;
-        const QDate day = dayOfLiteral(token.text);
-        if (!day.isValid())
-            throw Failure(FailureNumber::Engine, "Errore di sintassi nella data: " + token.text, statement);
-        token.kind = Kind::Text;
-        token.text = '\'' + day.toString(Qt::ISODate) + '\'';
-    }
-}
-
-// [table.column] becomes [table].[column].
-void splitBrackets(Tokens &tokens)
-{
-    for (size_t i = 0; i < tokens.size(); ++i) {
-        if (tokens[i].kind != Kind::Bracket)
-            continue;
-        const qsizetype point = tokens[i].text.indexOf('.');
-        if (point < 0)
-            continue;
-        const QString column = '[' + tokens[i].text.mid(point + 1);
-        tokens[i].text = tokens[i].text.left(point) + ']';
-        insertAt(tokens, i + 1, {sign("."), {Kind::Bracket, false, tokens[i].depth, column}});
-    }
-}
-
-// A whole number behind a division would divide integers.
-void makeDivisorsReal(Tokens &tokens)
-{
-    for (size_t i = 1; i < tokens.size(); ++i)
-        if (tokens[i].kind == Kind::Number && tokens[i - 1].is("/") && !tokens[i].text.contains('.'))
-            tokens[i].text += ".0";
-}
-
-// "= True" asks for anything but 0, so that a store that holds -1 answers too; elsewhere True is 1 and False 0.
-void rewriteYesNo(Tokens &tokens)
-{
-    bool assigning = tokens.front().is("UPDATE");
-    for (size_t i = 1; i < tokens.size(); ++i) {
-        if (tokens[i].is("WHERE"))
-            assigning = false;
-        const bool isTrue = tokens[i].is("True");
-        if ((!isTrue && !tokens[i].is("False")) || tokens[i - 1].is("."))
-            continue;
-        tokens[i].kind = Kind::Number;
-        const bool compared = !assigning && tokens[i - 1].is("=");
-        if (isTrue && compared)
-            tokens[i - 1].text = "<>";
-        tokens[i].text = isTrue && !compared ? "1" : "0";
-    }
-}
-
-// ---- Clauses of a statement ----
-
-// Where the clauses begin, at bracket depth 0; the end of the statement where one is missing.
-struct Clauses
-{
-    size_t from, where, group, having, order, limit;
+    Added,
+    LeftOut
 };
 
-Clauses clausesOf(const Tokens &tokens)
-{
-    Clauses clauses{tokens.size(), tokens.size(), tokens.size(), tokens.size(), tokens.size(), tokens.size()};
-    const auto note = [&](size_t &place, size_t i, const char *name) {
-        if (place == tokens.size() && tokens[i].is(name))
-            place = i;
-    };
-    int depth = 0;
-    for (size_t i = 0; i < tokens.size(); ++i) {
-        if (tokens[i].is("("))
-            ++depth;
-        if (tokens[i].is(")"))
-            --depth;
-        if (depth != 0)
-            continue;
-        note(clauses.from, i, "FROM");
-        note(clauses.where, i, "WHERE");
-        note(clauses.group, i, "GROUP");
-        note(clauses.having, i, "HAVING");
-        note(clauses.order, i, "ORDER");
-        note(clauses.limit, i, "LIMIT");
-    }
-    return clauses;
-}
-
-size_t endOfFrom(const Clauses &c)
-{
-    return std::min({c.where, c.group, c.having, c.order, c.limit});
-}
-
-bool isAggregate(const Tokens &tokens, size_t i)
-{
-    static constexpr std::array names{"Sum", "Count", "Max", "Min", "Avg", "First", "Last", "jet_first", "jet_last"};
-    return std::any_of(names.begin(), names.end(), [&](const char *name) { return isCallOf(tokens, i, name); });
-}
-
-bool anyAggregate(const Tokens &tokens, size_t from, size_t to)
-{
-    for (size_t i = from; i < to; ++i)
-        if (isAggregate(tokens, i))
-            return true;
-    return false;
-}
-
-// A trimmed text has lost the collation of its column: it is given back wherever it is compared, grouped or ordered.
-void collateTrims(Tokens &tokens)
-{
-    const Clauses clauses = clausesOf(tokens);
-    size_t compared = tokens.front().is("SELECT") ? clauses.from : clauses.where;
-    for (size_t i = compared; i < tokens.size(); ++i) {
-        if (!isCallOf(tokens, i, "Trim"))
-            continue;
-        const size_t close = closing(tokens, i + 1);
-        if (close == tokens.size() || (close + 1 < tokens.size() && tokens[close + 1].is("COLLATE")))
-            continue;
-        Tokens behind = plain({"COLLATE", "NOCASE"});
-        behind.push_back(sign(")"));
-        insertAt(tokens, close + 1, behind);
-        insertAt(tokens, i, {sign("(", tokens[i].blankBefore)});
-        tokens[i + 1].blankBefore = false;
-        i = close + 1;
-    }
-}
-
-// ---- Actions ----
-
-// What stands between DELETE and FROM names nothing that is needed.
-void dropDeleteList(Tokens &tokens)
-{
-    const size_t from = clausesOf(tokens).from;
-    if (from != tokens.size())
-        eraseRange(tokens, 1, from);
-}
-
-// SET T.c = ... becomes SET c = ...
-void dropSetQualifiers(Tokens &tokens)
-{
-    const size_t where = clausesOf(tokens).where;
-    size_t end = where;
-    int depth = 0;
-    for (size_t i = 1; i + 3 < end; ++i) {
-        if (tokens[i].is("("))
-            ++depth;
-        if (tokens[i].is(")"))
-            --depth;
-        if (depth != 0 || !(tokens[i].is("SET") || tokens[i].is(",")))
-            continue;
-        if (!isName(tokens[i + 1]) || !tokens[i + 2].is(".") || !isName(tokens[i + 3]))
-            continue;
-        tokens[i + 3].blankBefore = true;
-        eraseRange(tokens, i + 1, i + 3);
-        end -= 2;
-    }
-}
-
-// ---- Selects ----
-
-class Select
+// A select whose clauses are known, written clause by clause.
+class SelectWriter
 {
 public:
-    explicit Select(Tokens &tokens) : m_tokens(tokens) { m_table = singleTable(); }
-
-    Translation translate()
+    SelectWriter(const QString &statement, const JetTokens &tokens, const JetClauses &clauses)
+        : m_tokens(tokens), m_clauses(clauses), m_tables(readTables(tokens, clauses.from)),
+          m_keys(readTerms(tokens, clauses.group)),
+          m_grouped(!clauses.group.isEmpty() || callsAggregate(tokens, clauses.list)),
+          m_writer(statement, tokens, m_tables.isEmpty() ? nullptr : m_tables.front())
     {
-        keyFirstAndLast();
-        moveHavingToWhere();
-        collateTrims(m_tokens);
-        order();
-        Translation translation;
-        translation.hasKeyColumn = addKeyColumn();
-        if (translation.hasKeyColumn)
-            translation.table = bareName(*m_table);
-        return translation;
+    }
+
+    bool isUpdatable() const { return !m_grouped && m_tables.size() == 1; }
+    QString table() const { return m_tokens[m_clauses.from.from + 1].text.toString(); }
+
+    // `before` is what stands in front of the select.
+    QString write(JetRange before, Key key)
+    {
+        m_writer.write(before);
+        m_writer.write(m_clauses.list);
+        if (key == Key::Added && isUpdatable())
+            writeKey();
+        m_writer.write(m_clauses.from);
+        const bool moves = !m_keys.isEmpty() && comparesOnly(m_tokens, m_clauses.having, m_keys);
+        writeWhere(moves ? m_clauses.having : JetRange());
+        writeGroup();
+        if (!moves)
+            m_writer.write(m_clauses.having);
+        writeOrder();
+        m_writer.write(m_clauses.rest);
+        return m_writer.take();
     }
 
 private:
-    Clauses clauses() const { return clausesOf(m_tokens); }
-
-    // The one table of the statement, none for a join.
-    std::optional<JetToken> singleTable() const
+    bool isKeyOf(const JetToken &table, JetRange range) const
     {
-        const Clauses c = clauses();
-        if (c.from + 2 != endOfFrom(c) || !isName(m_tokens[c.from + 1]))
-            return std::nullopt;
-        return m_tokens[c.from + 1];
+        return range.to - range.from == 3 && m_tokens[range.from].isName() && m_tokens[range.from].text == table.text &&
+               m_tokens[range.from + 1].is(u'.') && m_tokens[range.from + 2].text == u"rowid";
     }
 
-    Tokens key(bool blankBefore) const
+    bool hasKey() const
     {
-        JetToken table = *m_table;
-        table.blankBefore = blankBefore;
-        return {table, sign("."), word("rowid", false)};
+        const int end = m_clauses.list.to;
+        return end - m_clauses.list.from > 5 && m_tokens[end - 1].text == kKeyAlias &&
+               m_tokens[end - 2].is(JetWord::As) && isKeyOf(*m_tables.front(), {end - 5, end - 2});
     }
 
-    bool aggregates() const { return anyAggregate(m_tokens, 1, clauses().from); }
-    bool grouped() const { return clauses().group != m_tokens.size(); }
-    bool distinct() const { return m_tokens.size() > 1 && m_tokens[1].is("DISTINCT"); }
-
-    // First and Last are those of the lowest and highest key. Over no rows they give no row.
-    void keyFirstAndLast()
+    void writeKey()
     {
-        if (!m_table)
+        if (hasKey())
             return;
-        bool found = false;
-        for (size_t i = 1; i < m_tokens.size(); ++i) {
-            const bool first = isCallOf(m_tokens, i, "First");
-            if (!first && !isCallOf(m_tokens, i, "Last"))
-                continue;
-            m_tokens[i].text = first ? "jet_first" : "jet_last";
-            Tokens argument{sign(",")};
-            const Tokens rowid = key(true);
-            argument.insert(argument.end(), rowid.begin(), rowid.end());
-            insertAt(m_tokens, closing(m_tokens, i + 1), argument);
-            found = true;
-        }
-        if (found && !grouped())
-            insertAt(m_tokens, std::min(clauses().order, clauses().limit), plain({"GROUP", "BY", "NULL"}));
+        m_writer.append(u",");
+        m_writer.addKeyOf(*m_tables.front());
+        m_writer.add(u"AS");
+        m_writer.add(kKeyAlias);
     }
 
-    Tokens groupKeys() const
+    void writeWhere(JetRange having)
     {
-        const Clauses c = clauses();
-        const size_t end = std::min({c.having, c.order, c.limit});
-        if (c.group + 2 > end)
-            return {};
-        return Tokens(m_tokens.begin() + std::ptrdiff_t(c.group) + 2, m_tokens.begin() + std::ptrdiff_t(end));
-    }
-
-    // Whether every name between the two places is that of a group key.
-    bool namesOnlyKeys(size_t from, size_t to) const
-    {
-        QStringList keys;
-        const Tokens groupTokens = groupKeys();
-        for (const JetToken &token : groupTokens)
-            if (isName(token))
-                keys << bareName(token).toLower();
-        for (size_t i = from; i < to; ++i) {
-            const bool qualifier = i + 1 < to && m_tokens[i + 1].is(".");
-            const bool joint = m_tokens[i].is("AND") || m_tokens[i].is("OR") || m_tokens[i].is("NOT");
-            if (!isName(m_tokens[i]) || qualifier || joint)
-                continue;
-            if (!keys.contains(bareName(m_tokens[i]).toLower()))
-                return false;
-        }
-        return true;
-    }
-
-    // A condition on group keys alone chooses the same groups before they are made, and can use an index there.
-    void moveHavingToWhere()
-    {
-        const Clauses c = clauses();
-        const size_t end = std::min(c.order, c.limit);
-        if (c.having == m_tokens.size() || !namesOnlyKeys(c.having + 1, end))
-            return;
-        Tokens condition(m_tokens.begin() + std::ptrdiff_t(c.having) + 1, m_tokens.begin() + std::ptrdiff_t(end));
-        condition.front().blankBefore = false;
-        condition.insert(condition.begin(), sign("(", true));
-        condition.push_back(sign(")"));
-        eraseRange(m_tokens, c.having, end);
-        if (c.where == m_tokens.size() + (end - c.having)) {
-            condition.insert(condition.begin(), word("WHERE"));
-            insertAt(m_tokens, c.group, condition);
+        if (having.isEmpty()) {
+            m_writer.write(m_clauses.where);
             return;
         }
-        condition.insert(condition.begin(), word("AND"));
-        condition.insert(condition.begin(), sign(")"));
-        insertAt(m_tokens, c.group, condition);
-        m_tokens[c.where + 1].blankBefore = false;
-        insertAt(m_tokens, c.where + 1, {sign("(", true)});
-    }
-
-    void append(const Tokens &what) { insertAt(m_tokens, clauses().limit, what); }
-
-    // Rows come in key order where no order is told, and ties are broken by key; groups come in the order of theirs.
-    void order()
-    {
-        const Clauses c = clauses();
-        const bool ordered = c.order != m_tokens.size();
-        if (grouped()) {
-            if (!ordered && !groupsByNothing())
-                orderBy(groupKeys());
-        } else if (m_table && !aggregates() && !distinct()) {
-            if (!ordered)
-                orderBy(key(true));
-            else if (!endsInKey(c))
-                appendTie();
-        }
-    }
-
-    bool groupsByNothing() const
-    {
-        const Tokens keys = groupKeys();
-        return keys.size() == 1 && keys.front().is("NULL");
-    }
-
-    void orderBy(Tokens keys)
-    {
-        if (keys.empty())
+        having.from += 1;
+        m_writer.add(u"WHERE");
+        if (m_clauses.where.isEmpty()) {
+            m_writer.write(having);
             return;
-        keys.front().blankBefore = true;
-        append(plain({"ORDER", "BY"}));
-        append(keys);
+        }
+        writeBracketed({m_clauses.where.from + 1, m_clauses.where.to});
+        m_writer.add(u"AND");
+        writeBracketed(having);
     }
 
-    // ID is the key itself.
-    bool endsInKey(const Clauses &c) const
+    void writeBracketed(JetRange condition)
     {
-        for (size_t i = c.order; i < c.limit; ++i)
-            if (isName(m_tokens[i])) {
-                const QString name = bareName(m_tokens[i]);
-                if (name.compare("ID", Qt::CaseInsensitive) == 0 || name.compare("rowid", Qt::CaseInsensitive) == 0)
-                    return true;
-            }
+        const bool bracketed = m_tokens[condition.from].match == condition.to - 1;
+        if (!bracketed)
+            m_writer.add(u"(");
+        m_writer.write(condition);
+        if (!bracketed)
+            m_writer.append(u")");
+    }
+
+    // First and Last of a table without rows give no row.
+    void writeGroup()
+    {
+        m_writer.write(m_clauses.group);
+        if (m_clauses.group.isEmpty() && picksRows())
+            m_writer.add(u"GROUP BY NULL");
+    }
+
+    bool picksRows() const
+    {
+        for (int at = m_clauses.list.from; at < m_clauses.list.to; ++at)
+            if ((m_tokens[at].is(JetWord::First) || m_tokens[at].is(JetWord::Last)) && m_tokens[at + 1].is(u'('))
+                return !m_tables.isEmpty();
         return false;
     }
 
-    void appendTie()
+    void writeOrder()
     {
-        Tokens tie{sign(",")};
-        const Tokens rowid = key(true);
-        tie.insert(tie.end(), rowid.begin(), rowid.end());
-        append(tie);
+        m_writer.write(m_clauses.order);
+        const JetRanges terms = readTerms(m_tokens, m_clauses.order);
+        m_ordered = !m_clauses.order.isEmpty();
+        if (m_grouped)
+            orderByKeys(terms);
+        else
+            orderByRows(terms);
     }
 
-    // The hidden key, by which rows of a single table are written.
-    bool addKeyColumn()
+    void beginTerm()
     {
-        if (!m_table || grouped() || aggregates() || distinct())
-            return false;
-        const size_t from = clauses().from;
-        const bool there = m_tokens[from - 1].is("rowid_") && m_tokens[from - 2].is("AS");
-        if (!there) {
-            Tokens column{sign(",")};
-            const Tokens rowid = key(true);
-            column.insert(column.end(), rowid.begin(), rowid.end());
-            column.push_back(word("AS"));
-            column.push_back(word("rowid_"));
-            insertAt(m_tokens, from, column);
+        if (m_ordered)
+            m_writer.append(u",");
+        else
+            m_writer.add(u"ORDER BY");
+        m_ordered = true;
+    }
+
+    void orderByKeys(const JetRanges &terms)
+    {
+        JetRanges named = terms;
+        for (const JetRange key : m_keys) {
+            const auto isSame = [&](JetRange term) { return sameExpression(m_tokens, key, term); };
+            if (m_tokens[key.from].is(JetWord::Null) || std::any_of(named.begin(), named.end(), isSame))
+                continue;
+            beginTerm();
+            m_writer.write(key);
+            named.append(key);
         }
-        return true;
     }
 
-    Tokens &m_tokens;
-    std::optional<JetToken> m_table;
+    void orderByRows(const JetRanges &terms)
+    {
+        for (const JetToken *table : m_tables) {
+            const auto isSame = [&](JetRange term) { return isKeyOf(*table, term); };
+            if (std::any_of(terms.begin(), terms.end(), isSame))
+                continue;
+            beginTerm();
+            m_writer.addKeyOf(*table);
+        }
+    }
+
+    const JetTokens &m_tokens;
+    const JetClauses &m_clauses;
+    JetTables m_tables;
+    JetRanges m_keys;
+    bool m_grouped;
+    bool m_ordered = false;
+    JetWriter m_writer;
 };
 
-// ---- The whole ----
-
-// One statement a call; a semicolon may end it.
-void dropSemicolon(Tokens &tokens, const QString &statement)
+JetRange allOf(const JetTokens &tokens)
 {
-    for (size_t i = 0; i < tokens.size(); ++i) {
-        if (!tokens[i].is(";"))
-            continue;
-        if (i + 1 != tokens.size())
-            throw Failure(FailureNumber::Engine, "Trovati caratteri dopo la fine dell'istruzione", statement);
-        tokens.pop_back();
-    }
+    return {0, int(tokens.size()) - 1};
 }
 
-// A table or stored query opened by its name alone.
-void openByName(Tokens &tokens)
+QString writeAll(const QString &statement, const JetTokens &tokens)
 {
-    if (tokens.size() == 1 && isName(tokens.front())) {
-        const JetToken name = word('[' + bareName(tokens.front()) + ']');
-        tokens = plain({"SELECT", "*", "FROM"});
-        tokens.push_back(name);
-        tokens.back().kind = Kind::Bracket;
-        tokens[1].kind = Kind::Sign;
-        tokens.front().blankBefore = false;
-    }
+    JetWriter writer(statement, tokens);
+    writer.write(allOf(tokens));
+    return writer.take();
 }
 
-QString joined(const Tokens &tokens)
+// SELECT * FROM [word], as an opening by name is written.
+bool isOpening(const JetTokens &tokens)
 {
-    QString text;
-    for (const JetToken &token : tokens) {
-        if (token.blankBefore && !text.isEmpty())
-            text += ' ';
-        text += token.text;
-    }
-    return text;
+    return tokens.size() == 5 && tokens[1].is(u'*') && tokens[2].is(JetWord::From) && tokens[3].kind == JetKind::Name;
+}
+
+Translation opening(const JetToken &name)
+{
+    return {Translation::Kind::Select, QStringLiteral("SELECT * FROM [%1]").arg(name.text), name.text.toString(),
+            false};
+}
+
+Translation translateSelect(const QString &statement, const JetTokens &tokens)
+{
+    if (isOpening(tokens))
+        return opening(tokens[3]);
+    const JetClauses clauses = readClauses(tokens, 0);
+    if (!clauses.isPlain)
+        return {Translation::Kind::Select, writeAll(statement, tokens), {}, false};
+    SelectWriter select(statement, tokens, clauses);
+    Translation translation{Translation::Kind::Select, {}, {}, select.isUpdatable()};
+    if (select.isUpdatable())
+        translation.table = select.table();
+    translation.statement = select.write({}, Key::Added);
+    return translation;
+}
+
+// DELETE <columns> FROM: the columns say nothing.
+QString translateDelete(const QString &statement, const JetTokens &tokens)
+{
+    JetRange rest{1, int(tokens.size()) - 1};
+    while (rest.from < rest.to && !tokens[rest.from].is(JetWord::From))
+        rest.from = tokens[rest.from].is(u'(') ? tokens[rest.from].match + 1 : rest.from + 1;
+    if (rest.isEmpty())
+        rest.from = 1;
+    JetWriter writer(statement, tokens);
+    writer.write({0, 1});
+    writer.write(rest);
+    return writer.take();
+}
+
+// CREATE VIEW name AS SELECT: a stored query keeps to the columns it names.
+QString translateCreate(const QString &statement, const JetTokens &tokens)
+{
+    const bool isView =
+        tokens.size() > 5 && tokens[1].is(JetWord::View) && tokens[3].is(JetWord::As) && tokens[4].is(JetWord::Select);
+    const JetClauses clauses = isView ? readClauses(tokens, 4) : JetClauses();
+    if (!clauses.isPlain)
+        return writeAll(statement, tokens);
+    return SelectWriter(statement, tokens, clauses).write({0, 4}, Key::LeftOut);
+}
+
+Translation action(const QString &statement)
+{
+    return {Translation::Kind::Action, statement, {}, false};
 }
 
 } // namespace
 
 Translation translateJet(const QString &statement)
 {
-    Tokens tokens = jetTokens(statement);
-    dropSemicolon(tokens, statement);
-    if (tokens.empty())
-        throw Failure(FailureNumber::Engine, "L'istruzione è vuota", statement);
-    openByName(tokens);
-    rewriteDates(tokens, statement);
-    splitBrackets(tokens);
-    makeDivisorsReal(tokens);
-    rewriteYesNo(tokens);
-
-    Translation translation;
-    if (tokens.front().is("SELECT")) {
-        translation = Select(tokens).translate();
-    } else {
-        translation.kind = Translation::Kind::Action;
-        if (tokens.front().is("DELETE"))
-            dropDeleteList(tokens);
-        if (tokens.front().is("UPDATE"))
-            dropSetQualifiers(tokens);
-        collateTrims(tokens);
+    const JetTokens tokens = readJetTokens(statement);
+    if (tokens.size() == 1)
+        throw Failure(FailureNumber::Engine, QStringLiteral("L'istruzione è vuota"), statement);
+    if (tokens.size() == 2 && (tokens[0].kind == JetKind::Word || tokens[0].kind == JetKind::Name))
+        return opening(tokens[0]);
+    switch (tokens[0].word) {
+    case JetWord::Select:
+        return translateSelect(statement, tokens);
+    case JetWord::Delete:
+        return action(translateDelete(statement, tokens));
+    case JetWord::Create:
+        return action(translateCreate(statement, tokens));
+    default:
+        return action(writeAll(statement, tokens));
     }
-    translation.statement = joined(tokens);
-    return translation;
 }
