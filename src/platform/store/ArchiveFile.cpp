@@ -75,7 +75,7 @@ void run(sqlite3 *handle, const QByteArray &script)
 // The original, in a state that another handle may read whole.
 std::shared_ptr<Database> openOriginal(const QString &path, const QString &password)
 {
-    OpenedArchive original = openArchive(path, password);
+    OpenedArchive original = openArchive(path, password, OpenFor::Inspection);
     if (!original.result)
         throw Failure(FailureNumber(original.result.number), original.result.words);
     return original.database;
@@ -112,15 +112,15 @@ void makeArchive(const QString &path, const QString &script, const QString &pass
 
 void copyEncrypted(const QString &from, const QString &to, const QString &password, const QString &fromPassword)
 {
-    const std::shared_ptr<Database> original = openOriginal(from, fromPassword);
     NewFile file(to);
+    const std::shared_ptr<Database> original = openOriginal(from, fromPassword);
     exportTo(original->handle(), to, password);
     file.keep();
 }
 
 QStringList integrityCheck(const QString &path, const QString &password)
 {
-    const OpenedArchive archive = openArchive(path, password);
+    const OpenedArchive archive = openArchive(path, password, OpenFor::Inspection);
     if (!archive.result)
         return {archive.result.words};
     QStringList faults;

@@ -42,7 +42,7 @@ struct CellOf
 
 Value convertedFor(ColumnType type, const Value &value)
 {
-    if (value.isNull())
+    if (value.isNull() && type != ColumnType::Boolean) // yes or no has no third state
         return value;
     switch (type) {
     case ColumnType::Number:

@@ -110,7 +110,10 @@ void settle(sqlite3 *handle)
 class Opening
 {
 public:
-    Opening(const QString &path, const QString &password) : m_path(path), m_password(password) {}
+    Opening(const QString &path, const QString &password, OpenFor purpose)
+        : m_path(path), m_password(password), m_purpose(purpose)
+    {
+    }
 
     OpenedArchive run()
     {
@@ -118,6 +121,7 @@ public:
         if (!info.isFile())
             return refused(Failure::usual(FailureNumber::FileNotFound, m_path));
         m_size = info.size();
+        m_journalWasEmpty = nothingInJournal();
         QFile file(m_path);
         if (!file.open(QIODevice::ReadOnly))
             return refused(
@@ -133,12 +137,20 @@ private:
     {
         OpenedArchive opened = attempt(Mode::Usual);
         // The journal kept beside an archive cannot be made in a folder that may not be written.
-        if (!opened.result && (m_lastCode == SQLITE_CANTOPEN || m_lastCode == SQLITE_READONLY) && nothingInJournal())
+        if (!opened.result && (m_lastCode == SQLITE_CANTOPEN || m_lastCode == SQLITE_READONLY) && m_journalWasEmpty)
             opened = attempt(Mode::Unchanging);
         return opened;
     }
 
-    bool nothingInJournal() const { return QFileInfo(m_path + QStringLiteral("-wal")).size() == 0; }
+    bool isEmpty(const QString &suffix) const { return QFileInfo(m_path + suffix).size() == 0; }
+    bool nothingInJournal() const { return isEmpty(QStringLiteral("-wal")) && isEmpty(QStringLiteral("-journal")); }
+
+    // The engine takes the missing rest of a last page for zeros. With something in the journal it may mend the file.
+    bool isCutShort(sqlite3 *handle) const
+    {
+        Statement pageSize(handle, "PRAGMA page_size");
+        return pageSize.step() && m_size % pageSize.columnInt(0) != 0 && m_journalWasEmpty;
+    }
 
     OpenedArchive attempt(Mode mode)
     {
@@ -156,7 +168,9 @@ private:
         m_lastCode = rc & 0xff;
         if (rc != SQLITE_OK)
             return failed(handle, rc);
-        if (mode == Mode::Usual)
+        if (isCutShort(handle))
+            return refused(engineFailure(SQLITE_CORRUPT, QStringLiteral("the file ends within a page")));
+        if (mode == Mode::Usual && m_purpose == OpenFor::Use)
             settle(handle);
         return {{OpenOutcome::Aperto, 0, {}}, std::move(database)};
     }
@@ -184,17 +198,19 @@ private:
 
     QString m_path;
     QString m_password;
+    OpenFor m_purpose;
     qint64 m_size = 0;
+    bool m_journalWasEmpty = true;
     bool m_plain = false;
     int m_lastCode = SQLITE_OK;
 };
 
 } // namespace
 
-OpenedArchive openArchive(const QString &path, const QString &password)
+OpenedArchive openArchive(const QString &path, const QString &password, OpenFor purpose)
 {
     try {
-        return Opening(path, password).run();
+        return Opening(path, password, purpose).run();
     } catch (const Failure &failure) {
         return refused(failure);
     }

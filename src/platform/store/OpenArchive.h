@@ -14,4 +14,10 @@ struct OpenedArchive
     std::shared_ptr<Database> database; // where the outcome is Aperto
 };
 
-OpenedArchive openArchive(const QString &path, const QString &password);
+enum class OpenFor
+{
+    Use,
+    Inspection, // nothing of the file is changed, not even the way its journal is kept
+};
+
+OpenedArchive openArchive(const QString &path, const QString &password, OpenFor purpose = OpenFor::Use);
