@@ -10,23 +10,24 @@ namespace {
 constexpr int kDomandaSiNo = 36; // question mark, yes and no
 const QString kReportIni = QStringLiteral("\\INI\\Report.ini");
 
-void leggiPercorso(ModNetServer &modulo)
+} // namespace
+
+QString DatabaseReportRegistrato(const ModNetServer &modulo)
 {
     if (!modulo.mondo.folder.fileExists(kReportIni))
-        return;
+        return {};
     TextReader reader(modulo.mondo.folder.resolve(kReportIni));
     QStringList lines;
     while (!reader.atEnd())
         lines << reader.line();
-    modulo.PercorsoDbReport = lines.value(1);
+    return lines.value(1);
 }
-
-} // namespace
 
 bool DaScegliereDatabaseReport(ModNetServer &modulo)
 {
     AssicuraCartellaIni(modulo);
-    leggiPercorso(modulo);
+    if (modulo.mondo.folder.fileExists(kReportIni))
+        modulo.PercorsoDbReport = DatabaseReportRegistrato(modulo);
     const QString &path = modulo.PercorsoDbReport;
     if (path.isEmpty() || !QFileInfo(ProgramFolder::resolveAbsolute(path)).isFile())
         return true;

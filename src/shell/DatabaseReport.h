@@ -3,6 +3,8 @@
 
 #include "core/ModNetServer.h"
 
+// The registered path, also where its file is gone; empty where there is none.
+QString DatabaseReportRegistrato(const ModNetServer &modulo);
 // Reads the registered path into PercorsoDbReport; where the file it names exists, asks whether to change it. True
 // where a file is to be chosen.
 bool DaScegliereDatabaseReport(ModNetServer &modulo);

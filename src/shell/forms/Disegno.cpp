@@ -1,0 +1,45 @@
+#include "shell/forms/Disegno.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QSvgRenderer>
+
+Disegno::Disegno(QWidget *parent) : QWidget(parent), m_renderer(new QSvgRenderer(this))
+{
+    m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
+}
+
+void Disegno::setFile(const QString &file)
+{
+    m_file = file;
+    m_renderer->load(file);
+    updateGeometry();
+    update();
+}
+
+QSize Disegno::sizeHint() const
+{
+    return m_renderer->defaultSize();
+}
+
+QIcon Disegno::icon(const QString &file)
+{
+    QSvgRenderer renderer(file);
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        renderer.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
+void Disegno::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_renderer->render(&painter, rect());
+}

@@ -1,0 +1,150 @@
+#include "shell/forms/Menu.h"
+
+#include "core/Household.h"
+#include "planner/forms/GeneraMenu.h"
+#include "platform/ui/FormRegistry.h"
+#include "sheet/forms/FrmCibra.h"
+#include "shell/ContaVisite.h"
+#include "shell/EtichettePersone.h"
+#include "shell/forms/Sfondo.h"
+#include "shell/MarcatoreSfondo.h"
+#include "ui_Menu.h"
+
+namespace {
+
+constexpr int kEscape = 27;
+
+void setSize(QLabel *label, int points, QFont::Weight weight)
+{
+    QFont font = label->font();
+    font.setPointSize(points);
+    font.setWeight(weight);
+    label->setFont(font);
+}
+
+} // namespace
+
+Menu::Menu(FormHost &host, FormRegistry &registry, ModNetServer &modulo)
+    : Form("Menu", host), m_ui(std::make_unique<Ui::Menu>()), m_registry(registry), m_modulo(modulo)
+{
+    m_ui->setupUi(this);
+    m_ui->sb->addPanel({}, {}, 1);
+    m_ui->StatusBar1->addPanel(modulo.DataAvvio);
+    dress();
+    connectHandlers();
+}
+
+Menu::~Menu() = default;
+
+void Menu::dress()
+{
+    setSize(m_ui->Label1, 13, QFont::DemiBold);
+    setSize(m_ui->Label2, 12, QFont::Normal);
+    setSize(m_ui->Label3, 22, QFont::DemiBold);
+    setSize(m_ui->Label4, 15, QFont::Normal);
+    QPalette palette = m_ui->Label1->palette();
+    palette.setColor(QPalette::WindowText, palette.color(QPalette::Link));
+    m_ui->Label1->setPalette(palette);
+}
+
+void Menu::connectHandlers()
+{
+    on(m_ui->mnucalcolaCibra, &QAction::triggered, this, &Menu::mnucalcolaCibra_Click);
+    on(m_ui->MnugeneraMenu, &QAction::triggered, this, &Menu::MnugeneraMenu_Click);
+    on(m_ui->mnuDatabase, &QAction::triggered, this, &Menu::mnuDatabase_Click);
+    on(m_ui->mnuVisualizza, &QAction::triggered, this, &Menu::mnuVisualizza_Click);
+    on(m_ui->mnuesciRete, &QAction::triggered, this, &Menu::mnuesciRete_Click);
+}
+
+void Menu::setPercorso(const QString &path)
+{
+    m_ui->sb->setPanelText(1, path);
+}
+
+void Menu::Form_Load()
+{
+    // A household file that is cut short is shown and logged, and the window opens all the same.
+    host().guarded([this] { aggiornaEtichette(); });
+}
+
+void Menu::aggiornaEtichette()
+{
+    const EtichettePersone labels = LeggiEtichettePersone(m_modulo);
+    m_ui->Label3->setText(labels.nomi);
+    m_ui->Label4->setText(labels.calorie);
+}
+
+void Menu::Form_Resize()
+{
+    const ProgramFolder &folder = m_modulo.mondo.folder;
+    mostraSfondo(SfondoVisibile(folder));
+    setWindowTitle("Applicazione per la Gestione Cibra  - n. Rev.   :  " + ContaVisita(folder));
+    if (!EsisteAnagrafica(m_modulo))
+        chiediAnagrafica();
+}
+
+void Menu::chiediAnagrafica()
+{
+    m_registry.get<GeneraMenu>().showHousehold();
+    m_modulo.mondo.dialoghi.MsgBox("Devi inserire i dati di default per la cibra", MsgFlags::Information, "OK");
+    m_registry.get<GeneraMenu>().showModal();
+    aggiornaEtichette();
+}
+
+void Menu::mostraSfondo(bool visible)
+{
+    m_ui->mnuVisualizza->setChecked(visible);
+    Sfondo &background = m_registry.get<Sfondo>();
+    if (visible)
+        background.mostra();
+    else
+        background.hide();
+}
+
+void Menu::Form_KeyPress(int character)
+{
+    if (character == kEscape)
+        TerminaProgramma();
+}
+
+void Menu::Form_Unload()
+{
+    if (m_modulo.ConnessioneDati)
+        m_modulo.ConnessioneDati->Close();
+    m_modulo.mondo.schermo.setMousePointer(MousePointer::Default);
+    TerminaProgramma();
+}
+
+void Menu::mnucalcolaCibra_Click()
+{
+    m_registry.get<FrmCibra>().showModal();
+}
+
+void Menu::MnugeneraMenu_Click()
+{
+    m_registry.get<GeneraMenu>().showModal();
+    aggiornaEtichette();
+}
+
+void Menu::mnuDatabase_Click()
+{
+    m_modulo.schermate.mostraGestioneRete();
+}
+
+void Menu::mnuVisualizza_Click()
+{
+    const ProgramFolder &folder = m_modulo.mondo.folder;
+    if (SfondoVisibile(folder)) {
+        mostraSfondo(false);
+        TogliSegnoSfondo(folder);
+        return;
+    }
+    mostraSfondo(true);
+    raise(); // the background comes up behind this window, which stays in reach
+    SegnaSfondo(folder);
+}
+
+void Menu::mnuesciRete_Click()
+{
+    TerminaProgramma();
+}

@@ -1,0 +1,95 @@
+#include "shell/forms/Program.h"
+
+#include "core/ErrorLog.h"
+#include "planner/forms/GeneraMenu.h"
+#include "platform/ui/DialoghiQt.h"
+#include "platform/ui/FormHost.h"
+#include "platform/ui/FormRegistry.h"
+#include "sheet/forms/FrmCibra.h"
+#include "shell/forms/Disegno.h"
+#include "shell/forms/GestioneRete.h"
+#include "shell/forms/Menu.h"
+#include "shell/forms/Messaggi.h"
+#include "shell/forms/SchermateDelProgramma.h"
+#include "shell/forms/Sfondo.h"
+#include "shell/Main.h"
+
+#include <QApplication>
+#include <QIcon>
+
+struct Program::Private
+{
+    Private(const ProgramFolder &folder, Programmi &programmi, Orologio &orologio, Dado &dado, Schermo &schermo)
+        : dialoghi(host, Program::name()), mondo{folder, dialoghi, programmi, orologio, dado, schermo},
+          schermate(registry), modulo(mondo, schermate)
+    {
+    }
+
+    void setFactories();
+    void report(const Failure &failure);
+
+    FormHost host;
+    FormRegistry registry;
+    DialoghiQt dialoghi;
+    Environment mondo;
+    SchermateDelProgramma schermate;
+    ModNetServer modulo;
+    bool ended = false;
+};
+
+void Program::Private::setFactories()
+{
+    registry.setFactory<Messaggi>([this] { return std::make_unique<Messaggi>(host, modulo); });
+    registry.setFactory<Sfondo>([this] { return std::make_unique<Sfondo>(host, modulo); });
+    registry.setFactory<GestioneRete>([this] { return std::make_unique<GestioneRete>(host, modulo); });
+    registry.setFactory<Menu>([this] { return std::make_unique<Menu>(host, registry, modulo); });
+    registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, modulo); });
+    registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, modulo); });
+}
+
+void Program::Private::report(const Failure &failure)
+{
+    ScriviLogErrore(modulo, "Errore non gestito ", failure);
+    dialoghi.MsgBox(failure.words(), MsgFlags::Critical, Program::name());
+}
+
+QString Program::name()
+{
+    return "Cibra";
+}
+
+Program::Program(const ProgramFolder &folder, Programmi &programmi, Orologio &orologio, Dado &dado, Schermo &schermo)
+    : m_private(std::make_unique<Private>(folder, programmi, orologio, dado, schermo))
+{
+    // Between two modal windows none is open: that is no end of the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(Disegno::icon(":/shell/cibra.svg"));
+    m_private->host.report = [this](const Failure &failure) { m_private->report(failure); };
+    m_private->setFactories();
+}
+
+Program::~Program()
+{
+    m_private->registry.dropAll();
+}
+
+void Program::run()
+{
+    try {
+        Main(m_private->modulo, m_private->schermate);
+    } catch (const ProgramEnd &) {
+        // The usual end: "Uscita ", Esc, the main window closed, or a start given up.
+    }
+    m_private->ended = true;
+    m_private->registry.dropAll();
+}
+
+bool Program::ended() const
+{
+    return m_private->ended;
+}
+
+void Program::end()
+{
+    m_private->host.end();
+}
