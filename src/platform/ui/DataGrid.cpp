@@ -6,12 +6,26 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <map>
 
 namespace {
 
 constexpr int kMeasuredRows = 60; // enough to find good widths, whatever the length of the set
 constexpr int kWidest = 320;      // pixels; longer texts are elided
+constexpr int kNarrowest = 120;   // of a text column that makes room for the others
 constexpr int kCellPadding = 10;
+
+// The width of a caption broken into two lines where that makes it narrowest.
+int foldedWidth(const QString &caption, const QFontMetrics &metrics)
+{
+    int narrowest = metrics.horizontalAdvance(caption);
+    for (int i = 1; i < caption.size() - 1; ++i) {
+        if (caption[i] == ' ')
+            narrowest = std::min(narrowest, std::max(metrics.horizontalAdvance(caption.left(i)),
+                                                     metrics.horizontalAdvance(caption.mid(i + 1))));
+    }
+    return narrowest;
+}
 
 } // namespace
 
@@ -42,6 +56,7 @@ DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_un
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
+    horizontalHeader()->setMinimumHeight(2 * fontMetrics().height() + kCellPadding); // captions may take two lines
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
         if (!m_private->fitting)
             m_private->sizedByUser = true;
@@ -158,6 +173,17 @@ void DataGrid::moveRecordset(int row)
         recordset->Move(distance);
 }
 
+// The theme's captions are bolder than the header's own font.
+int DataGrid::captionWidth(int column) const
+{
+    QFont bold = horizontalHeader()->font();
+    bold.setWeight(QFont::DemiBold);
+    const QFontMetrics metrics(bold);
+    const QString caption = model()->headerData(column, Qt::Horizontal).toString();
+    return horizontalHeader()->sectionSizeHint(column) - metrics.horizontalAdvance(caption) +
+           foldedWidth(caption, metrics);
+}
+
 // Widths are found once for a set of columns, from the first rows; a new set of the same columns keeps them.
 void DataGrid::fitColumns()
 {
@@ -171,7 +197,7 @@ void DataGrid::fitColumns()
     {
         const QScopedValueRollback fitting(m_private->fitting, true);
         for (int column = 0; column < model()->columnCount(); ++column) {
-            const int wanted = std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+            const int wanted = std::max(sizeHintForColumn(column), captionWidth(column));
             setColumnWidth(column, std::min(wanted + kCellPadding, kWidest));
         }
     }
@@ -180,21 +206,46 @@ void DataGrid::fitColumns()
     fillWidth();
 }
 
-// What is left of the width goes to the text columns, in equal parts.
+// What is left of the width goes to the text columns, in equal parts; what is missing comes from the widest of them.
 void DataGrid::fillWidth()
+{
+    const std::vector<int> texts = textColumns();
+    const int left = viewport()->width() - horizontalHeader()->length();
+    if (m_private->sizedByUser || texts.empty())
+        return;
+    const QScopedValueRollback fitting(m_private->fitting, true);
+    if (left < 0)
+        squeezeTexts(texts, -left);
+    const int count = int(texts.size());
+    for (int i = 0; left > 0 && i < count; ++i)
+        setColumnWidth(texts[std::size_t(i)], columnWidth(texts[std::size_t(i)]) + left / count + (i < left % count));
+}
+
+// Takes `excess` pixels off, each from the column that is the widest then.
+void DataGrid::squeezeTexts(const std::vector<int> &texts, int excess)
+{
+    std::map<int, int> widths;
+    for (const int column : texts)
+        widths[column] = columnWidth(column);
+    const auto narrower = [](const auto &a, const auto &b) { return a.second < b.second; };
+    for (; excess > 0; --excess) {
+        const auto widest = std::max_element(widths.begin(), widths.end(), narrower);
+        if (widest->second <= kNarrowest)
+            break;
+        --widest->second;
+    }
+    for (const auto &[column, width] : widths)
+        setColumnWidth(column, width);
+}
+
+std::vector<int> DataGrid::textColumns() const
 {
     std::vector<int> texts;
     for (int column = 0; column < model()->columnCount(); ++column) {
         if (!isColumnHidden(column) && !m_private->model->isNumber(column))
             texts.push_back(column);
     }
-    const int left = viewport()->width() - horizontalHeader()->length();
-    if (m_private->sizedByUser || texts.empty() || left <= 0)
-        return;
-    const QScopedValueRollback fitting(m_private->fitting, true);
-    const int count = int(texts.size());
-    for (int i = 0; i < count; ++i)
-        setColumnWidth(texts[std::size_t(i)], columnWidth(texts[std::size_t(i)]) + left / count + (i < left % count));
+    return texts;
 }
 
 void DataGrid::resizeEvent(QResizeEvent *event)

@@ -41,7 +41,10 @@ private:
     void followRecordset();
     void moveRecordset(int row);
     void fitColumns();
+    int captionWidth(int column) const;
     void fillWidth();
+    void squeezeTexts(const std::vector<int> &texts, int excess);
+    std::vector<int> textColumns() const;
     FormHost *host() const;
 
     struct Private;

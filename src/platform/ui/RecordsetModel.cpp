@@ -108,6 +108,10 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
     if (!index.isValid() || !isShown(index.row(), index.column()))
         return {};
     switch (role) {
+    case Qt::ToolTipRole: // a long name may be cut
+        if (isNumber(index.column()))
+            return {};
+        [[fallthrough]];
     case Qt::DisplayRole:
         return m_recordset->valueAt(index.row(), m_fields[std::size_t(index.column())]).text();
     case Qt::TextAlignmentRole:
@@ -130,6 +134,6 @@ QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, in
     if (role == Qt::DisplayRole)
         return m_columns[std::size_t(section)].caption;
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignVCenter | (isNumber(section) ? Qt::AlignRight : Qt::AlignLeft));
+        return int(Qt::AlignVCenter) | int(Qt::TextWordWrap) | int(isNumber(section) ? Qt::AlignRight : Qt::AlignLeft);
     return {};
 }

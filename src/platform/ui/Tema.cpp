@@ -67,7 +67,7 @@ QDialogButtonBox, QMessageBox { button-layout: 0; }
 QToolTip { color: %2; background: %3; border: 1px solid %4; padding: 4px; }
 QStatusBar { border-top: 1px solid %4; }
 QStatusBar::item { border: none; }
-QHeaderView::section { background: %1; color: %2; border: none; border-bottom: 2px solid %5; padding: 5px 6px;
+QHeaderView::section { background: %1; color: %2; border: none; border-bottom: 2px solid %5; padding: 5px 3px;
                        font-weight: 600; }
 QTableView { border: 1px solid %4; gridline-color: %4; }
 QGroupBox { border: 1px solid %4; border-radius: 6px; margin-top: 12px; padding-top: 8px; }

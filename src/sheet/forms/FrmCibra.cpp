@@ -9,7 +9,7 @@
 #include "sheet/StampaTesto.h"
 #include "ui_FrmCibra.h"
 
-#include <QHeaderView>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 static void initResources()
@@ -69,6 +69,7 @@ FrmCibra::FrmCibra(FormHost &host, FormRegistry &, ModNetServer &modulo)
                                 {"Totale2", "Totale "}});
     m_ui->TDBGrid1->setHost(&host);
     m_ui->TDBGrid1->setRowColour(rowColour);
+    m_ui->DataCombo2->lineEdit()->setFont(m_ui->DataCombo2->font());
     colourCaption(m_ui->Label1, Tema::firstPerson());
     colourCaption(m_ui->Label2, Tema::secondPerson());
     m_ui->Command14->hide();
@@ -196,7 +197,8 @@ void FrmCibra::CercaSchedaPranzo(const QString &giorno)
 {
     Datsecondaryrs->Close();
     Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo(giorno), m_modulo.dati());
-    m_ui->TDBGrid1->setDataSource(Datsecondaryrs);
+    if (m_ui->TDBGrid1->dataSource() != Datsecondaryrs) // else it follows the set by itself
+        m_ui->TDBGrid1->setDataSource(Datsecondaryrs);
     Recordset sum;
     const TotaliGiorno totali = SommaGiorno(sum, m_modulo.dati(), giorno);
     m_ui->Text2->setText(totali.prima);
