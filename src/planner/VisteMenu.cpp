@@ -11,7 +11,7 @@ const QString kVista =
 std::shared_ptr<Recordset> Apri(ModNetServer &modulo, const QString &statement)
 {
     auto rs = std::make_shared<Recordset>();
-    rs->Open(statement, modulo.dati());
+    rs->Open(statement, modulo.dati(), Recordset::Access::ReadOnly);
     return rs;
 }
 

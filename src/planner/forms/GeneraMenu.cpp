@@ -103,6 +103,7 @@ void GeneraMenu::Form_Load()
 {
     loadHousehold();
     showHousehold();
+    m_ui->Text5->setFocus();
     m_insiemi.Apri(m_modulo.dati());
     setIfDifferent(m_ui->Text2, UltimoGiornoPianificato(m_modulo));
     setIfDifferent(m_ui->Text1, TestoData(m_modulo.mondo.orologio.today()));
