@@ -155,6 +155,7 @@ TEST_F(GeneraMenuTest, EachBoxTakesItsOwnKindByItsOwnFrequency)
         {6, 8, "Cena", {"Orata", "Sogliola"}},  {11, 9, "Cena", {"Manzo", "Pollo"}},
     };
     for (const Kind &kind : kinds) {
+        dati.Execute("UPDATE Sostituisci SET Sostituisci.Ordine = 0;");
         InsiemiPiatti fresh;
         fresh.Apri(dati);
         SceltaMenu scelta = choice("02/03/2025", "05/03/2025");

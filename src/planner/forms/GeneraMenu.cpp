@@ -13,7 +13,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr double kFirstBarWidth = 200; // twips
-constexpr int kRepaintInterval = 30;   // milliseconds
 constexpr int kEscape = 27;
 
 // A text set by code is a change only where it differs, and the caret of the box being typed in stays where it is.
@@ -71,8 +70,6 @@ void GeneraMenu::connectHandlers()
     on(m_ui->Command1, &QPushButton::clicked, this, &GeneraMenu::Command1_Click);
     on(m_ui->Command2, &QPushButton::clicked, this, &GeneraMenu::Command2_Click);
     on(m_ui->Command3, &QPushButton::clicked, this, &GeneraMenu::Command3_Click);
-    for (QLineEdit *box : {m_ui->Text5, m_ui->Text6, m_ui->Text7, m_ui->Text8})
-        connect(box, &QLineEdit::returnPressed, m_ui->Command3, &QPushButton::click);
 
     linkMeal({m_ui->Check1, m_ui->Check2, m_ui->Check3, m_ui->Check7, m_ui->Check8});
     linkMeal({m_ui->Check4, m_ui->Check5, m_ui->Check6, m_ui->Check9, m_ui->Check11});
@@ -273,8 +270,5 @@ void GeneraMenu::setLarghezzaLabel5(double twips)
 
 void GeneraMenu::ridisegna()
 {
-    if (m_lastRepaint.isValid() && m_lastRepaint.elapsed() < kRepaintInterval)
-        return;
-    m_lastRepaint.start();
-    m_modulo.mondo.schermo.breathe();
+    m_modulo.mondo.schermo.breathe(); // Esc stops nothing here
 }

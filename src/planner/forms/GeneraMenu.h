@@ -9,13 +9,11 @@
 #include "platform/ui/Form.h"
 #include "platform/ui/FormRegistry.h"
 
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QRadioButton>
 
 #include <vector>
 
-class QAbstractButton;
 class QCheckBox;
 
 namespace Ui {
@@ -75,5 +73,4 @@ private:
     bool m_CopiaDate = false; // Text1 or Text2 are copying themselves to Text3 and Text4
     bool m_ContaPreferiti = false;
     double m_larghezzaLabel5;
-    QElapsedTimer m_lastRepaint;
 };
