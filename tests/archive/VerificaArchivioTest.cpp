@@ -109,6 +109,12 @@ TEST_F(VerificaArchivioTest, AFileThatIsNoArchiveIsTold)
     EXPECT_THAT(verifica().guasti.first().toStdString(), HasSubstr("L'archivio non si apre: "));
 }
 
+TEST_F(VerificaArchivioTest, AnMdbFileIsNotTakenForAProtectedArchive)
+{
+    folder.write("prova.db", (QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(4096, 'x')).left(4096));
+    EXPECT_EQ(verifica().guasti, QStringList("Il file è un archivio .mdb, non un archivio di questo programma"));
+}
+
 TEST_F(VerificaArchivioTest, DamagedPagesAreTold)
 {
     creaArchivioEsempio(path, QDate(2025, 3, 1));

@@ -24,6 +24,9 @@ void crea(const QString &path, const QString &script)
     const QFileInfo info(path);
     if (info.exists() || info.isSymLink())
         throw Failure(FailureNumber::PathAccess, QStringLiteral("Il file \"%1\" esiste già").arg(path));
+    if (!QFileInfo(info.path()).isWritable())
+        throw Failure(FailureNumber::PathAccess,
+                      QStringLiteral("La cartella \"%1\" non c'è o non si può scrivere").arg(info.path()));
     const FileProvvisorio file(path);
     makeArchive(file.path(), script);
     file.diventaNuovo();

@@ -6,6 +6,7 @@
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -126,6 +127,13 @@ QStringList righeDi(const QStringList &told)
     return lines;
 }
 
+// A file of the Jet engine is of sizes that an encrypted archive has, too; its head tells it.
+bool diJet(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(32).contains("Jet DB");
+}
+
 Verifica guasto(const QString &words)
 {
     return {Verifica::Esito::Guasto, {words}};
@@ -137,6 +145,9 @@ Verifica verificaArchivio(const QString &path, const QString &password)
 {
     if (!QFileInfo(path).isFile())
         return guasto(QStringLiteral("Il file \"%1\" non c'è").arg(path));
+
+    if (diJet(path))
+        return guasto(QStringLiteral("Il file è un archivio .mdb, non un archivio di questo programma"));
 
     Connection archive;
     const OpenResult opened = archive.Open(path, password);
