@@ -27,6 +27,7 @@ void setCaptionColour(QLabel *label, const QColor &colour)
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, colour);
     label->setPalette(palette);
+    label->setForegroundRole(QPalette::WindowText); // on a card it would be that of a text box
 }
 
 } // namespace
@@ -55,6 +56,11 @@ void GeneraMenu::dress()
         setCaptionColour(label, Tema::firstPerson());
     for (QLabel *label : {m_ui->SecondaPersona, m_ui->Label3_2})
         setCaptionColour(label, Tema::secondPerson());
+    for (QFrame *card : {m_ui->RiquadroTipi, m_ui->RiquadroPersone}) {
+        card->setBackgroundRole(QPalette::Base);
+        card->setAutoFillBackground(true);
+    }
+    m_ui->LineaPasti->setForegroundRole(QPalette::Mid);
     QPalette bar = m_ui->Label5->palette();
     bar.setColor(QPalette::Window, Tema::accent());
     m_ui->Label5->setPalette(bar);
