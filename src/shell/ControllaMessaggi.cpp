@@ -42,6 +42,13 @@ void mostraAvviso(ModNetServer &modulo, const QString &message)
     TerminaProgramma();
 }
 
+// An aggregate of a day column comes in the form in which the archive holds it.
+QDate giorno(const Value &value)
+{
+    const QDate stored = QDate::fromString(value.text(), Qt::ISODate);
+    return stored.isValid() ? stored : value.date();
+}
+
 void controlla(ModNetServer &modulo)
 {
     if (!modulo.ConnessioneSistema)
@@ -54,7 +61,7 @@ void controlla(ModNetServer &modulo)
         const double kind = rows.value(QStringLiteral("TipoBlocco")).number();
         if (kind == 2) // whatever its day
             ferma(modulo, message);
-        const bool today = rows.value(QStringLiteral("data")).date() == modulo.mondo.orologio.today();
+        const bool today = giorno(rows.value(QStringLiteral("data"))) == modulo.mondo.orologio.today();
         const bool seen = booleano(message) == std::optional<bool>(modulo.MessaggioVisto);
         if (today && (kind == 1 || (kind == 0 && !seen)))
             mostraAvviso(modulo, message);
