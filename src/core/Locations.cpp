@@ -167,6 +167,8 @@ void ApriDbSistema(ModNetServer &modulo, const QString &Percorso)
     if (openNew(modulo.ConnessioneSistema, nativePath(modulo, Percorso)))
         return;
     const QString mended = QString(Percorso).replace(QStringLiteral("\\\\"), QStringLiteral("\\"));
+    if (mended == Percorso)
+        return;
     // Nothing is reported: the program runs without a system archive as well.
     openNew(modulo.ConnessioneSistema, nativePath(modulo, mended));
 }

@@ -8,7 +8,33 @@
 
 #include <QFileInfo>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
+
+// While one lives, no file of this process grows beyond `bytes`: a disk that is nearly full.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit small = {bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~SmallDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    SmallDisk(const SmallDisk &) = delete;
+    SmallDisk &operator=(const SmallDisk &) = delete;
+
+private:
+    rlimit m_before = {};
+    void (*m_handler)(int);
+};
 
 template <typename Operation>
 FailureNumber failureOf(Operation operation)
@@ -156,6 +182,34 @@ TEST(TextFileTest, AFullDiskFailsTheCloseAndNeverTheDestructor)
     };
     EXPECT_EQ(failureOf(print), FailureNumber::PathAccess);
     EXPECT_NO_THROW(TextWriter("/dev/full", TextEncoding::CodePage).line("x"));
+}
+
+TEST(TextFileTest, AFullDiskLeavesTheOldSettingsFileAsItWas)
+{
+    const TemporaryFolder folder;
+    folder.write("a.txt", "old\r\n");
+    const auto save = [&] {
+        const SmallDisk disk(100);
+        TextWriter writer(folder.path("a.txt"));
+        writer.line(QString(5000, u'x'));
+        writer.close();
+    };
+    EXPECT_EQ(failureOf(save), FailureNumber::PathAccess);
+    EXPECT_EQ(folder.read("a.txt"), QByteArray("old\r\n"));
+    EXPECT_EQ(folder.entries(), QStringList("a.txt"));
+}
+
+TEST(TextFileTest, AFullDiskLeavesAPrintIncomplete)
+{
+    const TemporaryFolder folder;
+    const auto print = [&] {
+        const SmallDisk disk(100);
+        TextWriter writer(folder.path("a.txt"), TextEncoding::CodePage);
+        writer.line(QString(5000, u'x'));
+        writer.close();
+    };
+    EXPECT_EQ(failureOf(print), FailureNumber::PathAccess);
+    EXPECT_EQ(folder.read("a.txt"), QByteArray(100, 'x'));
 }
 
 TEST(TextFileTest, AWriterNeedsItsFolderAndNoFolderInItsPlace)

@@ -97,7 +97,8 @@ void TextWriter::replaceFile(const QByteArray &bytes) const
 {
     QSaveFile file(m_path);
     file.setDirectWriteFallback(true); // a file that may be written in a folder that may not
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // The flush is checked for itself: a commit takes a file that could not be flushed for a complete one.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         throw Failure::usual(FailureNumber::PathAccess, m_path);
 }
 
