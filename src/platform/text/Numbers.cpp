@@ -106,9 +106,9 @@ double compose(const Parts &parts, QStringView whole, QStringView fraction)
     std::string plain = parts.negative ? "-" : "";
     plain += whole.isEmpty() ? std::string("0") : whole.toLatin1().toStdString();
     if (!fraction.isEmpty())
-        plain += "." + fraction.toLatin1().toStdString();
+        plain.append(".").append(fraction.toLatin1().toStdString());
     if (!parts.exponent.isEmpty())
-        plain += "E" + parts.exponent.toLatin1().toStdString();
+        plain.append("E").append(parts.exponent.toLatin1().toStdString());
     const std::optional<double> number = readPlain(plain);
     if (!number)
         mismatch();
@@ -181,8 +181,8 @@ double Val(const QString &text)
     const int fraction = hasPoint ? countDigits(rest.mid(whole + 1)) : 0;
     if (whole == 0 && fraction == 0)
         return 0;
-    plain += "0" + rest.left(whole).toLatin1().toStdString();
+    plain.append("0").append(rest.left(whole).toLatin1().toStdString());
     if (fraction > 0)
-        plain += "." + rest.mid(whole + 1, fraction).toLatin1().toStdString();
+        plain.append(".").append(rest.mid(whole + 1, fraction).toLatin1().toStdString());
     return readPlain(plain).value_or(0);
 }
