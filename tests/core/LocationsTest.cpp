@@ -1,11 +1,10 @@
 #include "core/Locations.h"
 
+#include "core/Helpers.h"
 #include "platform/Failure.h"
 #include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
-
-#include <QDir>
 
 namespace {
 
@@ -314,6 +313,22 @@ TEST_F(LocationsTest, AWrongPasswordAndNoneEndTheProgram)
     EXPECT_EQ(boxesAfter("sbagliata"), QStringList({kPassword, refused + "Password non valida"}));
     EXPECT_EQ(boxesAfter(""), QStringList({kPassword, refused + "L'archivio è protetto da una password"}));
     EXPECT_EQ(world.schermate.gestioneReteShown, 0);
+}
+
+TEST_F(LocationsTest, AnArchiveWithoutItsTablesOpensAndFailsWhereOneIsNeeded)
+{
+    makeTestSystemArchive(dati); // an archive, but with none of the household's tables
+    ApriDbDati(modulo, dati);
+    EXPECT_TRUE(modulo.ConnessioneDati->isOpen());
+    EXPECT_EQ(world.dialoghi.boxes(), QStringList());
+    try {
+        NuovoId(modulo, "Categorie");
+        FAIL();
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.number(), FailureNumber::Engine);
+        EXPECT_TRUE(failure.words().contains("Categorie")) << failure.words().toStdString();
+        EXPECT_EQ(failure.statement(), "SELECT Max(ID) + 1 AS ID FROM Categorie;");
+    }
 }
 
 TEST_F(LocationsTest, AWindowThatFailsToLoadIsNoFailureOfTheArchive)
