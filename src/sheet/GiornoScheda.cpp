@@ -31,8 +31,7 @@ TotaliGiorno SommaGiorno(Recordset &recordset, Connection &connection, const QSt
                    "From SchedaPranzo WHERE (((SchedaPranzo.dataInserimento)='" +
                        data + "'));",
                    connection);
-    const TotaliGiorno totali{textOrZero(recordset.value("SommaDiTotale1")),
-                              textOrZero(recordset.value("SommaDiTotale2"))};
+    TotaliGiorno totali{textOrZero(recordset.value("SommaDiTotale1")), textOrZero(recordset.value("SommaDiTotale2"))};
     recordset.Close();
     return totali;
 }
