@@ -304,7 +304,7 @@ bool FrmCibra::eventFilter(QObject *watched, QEvent *event)
     return hasHint && static_cast<QMouseEvent *>(event)->buttons() == Qt::NoButton;
 }
 
-// Gives whether the control has a hint; all others hide it.
+// Gives whether the control has a hint; the form, its frame and its grid hide it.
 bool FrmCibra::mouseMovedOver(QObject *control)
 {
     const QString portions = "RICALCOLA LE QUANTITA DI OGNI ELEMENTO RIPORTANDO IL TOTALE CALORIE A ";
@@ -316,7 +316,8 @@ bool FrmCibra::mouseMovedOver(QObject *control)
         showHint("Se il check è selezionato, ogni volta che ricerchi un menu giornaliero, provvede in automatico a "
                  "sincronizzare i vari elementi di ogni menu al valore dei KCal giornalieri di default");
     } else {
-        m_ui->Label5->hide();
+        if (control == m_ui->centralwidget || control == m_ui->Frame1 || control == m_ui->TDBGrid1->viewport())
+            m_ui->Label5->hide();
         return false;
     }
     return true;
