@@ -16,16 +16,18 @@ mkdir -p "$pictures"
 
 # Smaller than anything, so that the form stops at its own smallest size; large, as on an ordinary desktop.
 espandi() {
-    awk '$1 != "schermata" { print; next }
-         NF == 2 { print "shot " $2 ".png"; next }
-         { print "resize " $3 " 1 1"; print "shot " $2 "-piccola.png " $3
-           print "resize " $3 " 1600 1000"; print "shot " $2 "-grande.png " $3 }' "$1"
+    awk -v folder="$pictures" '
+        function shot(name, form) { print "shot \"" folder "/" name ".png\" " form }
+        $1 != "schermata" { print; next }
+        NF == 2 { shot($2, ""); next }
+        { print "resize " $3 " 1 1"; shot($2 "-piccola", $3)
+          print "resize " $3 " 1600 1000"; shot($2 "-grande", $3) }' "$1"
 }
 
 # scatta SCRIPT FOLDER: plays a script on a program folder, the pictures going to docs/schermate.
 scatta() {
     espandi "tools/schermate/$1.copione" >"$work/$1.copione"
-    (cd "$pictures" && "$bin/cibra-copione" --folder "$2" --screen offscreen --today 03/03/2025 "$work/$1.copione")
+    "$bin/cibra-copione" --folder "$2" --screen offscreen --today 03/03/2025 "$work/$1.copione"
 }
 
 "$bin/cibra-archivio" prepara "$work/piena"

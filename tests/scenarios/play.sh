@@ -27,7 +27,9 @@ empty) ;;
 esac
 [ ! -d "$scenario.folder" ] || cp -r "$scenario.folder/." "$folder/"
 
-cd "$work"
+# Pictures go there, and are for whoever plays the script by hand.
+mkdir "$folder/Immagini"
+cd "$folder"
 "$copione" --folder "$folder" --screen offscreen --today "$(setting today 03/03/2025)" "$scenario.copione" \
     >"$work/output"
 [ ! -e "$scenario.expected" ] || diff -u "$scenario.expected" <(sed "s|$folder|FOLDER|g" "$work/output")
