@@ -16,15 +16,15 @@ struct Colours
 const Colours &light()
 {
     static const Colours colours{QColor(0xF6F1EA), QColor(0xFFFDFA), QColor(0xFAF4EC), QColor(0x33302C),
-                                 QColor(0x6B655D), QColor(0xD9CFC2), QColor(0xE8852B), QColor(0x2A1A08),
-                                 QColor(0x8A4300), QColor(0x0F5A54), QColor(0x6A3478)};
+                                 QColor(0x6B655D), QColor(0xD9CFC2), QColor(0xE8852B), QColor(0x140A00),
+                                 QColor(0x7A3A00), QColor(0x0F5A54), QColor(0x6A3478)};
     return colours;
 }
 
 const Colours &dark()
 {
     static const Colours colours{QColor(0x26221E), QColor(0x2E2A25), QColor(0x35302A), QColor(0xF0EAE2),
-                                 QColor(0xA79F95), QColor(0x4A433B), QColor(0xE8852B), QColor(0x1E1206),
+                                 QColor(0xA79F95), QColor(0x4A433B), QColor(0xE8852B), QColor(0x120900),
                                  QColor(0xF4AE6C), QColor(0x7FD3CB), QColor(0xD9A8E6)};
     return colours;
 }
