@@ -4,10 +4,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-Disegno::Disegno(QWidget *parent) : QWidget(parent), m_renderer(new QSvgRenderer(this))
-{
-    m_renderer->setAspectRatioMode(Qt::KeepAspectRatio);
-}
+Disegno::Disegno(QWidget *parent) : QWidget(parent), m_renderer(new QSvgRenderer(this)) {}
 
 void Disegno::setFile(const QString &file)
 {
@@ -41,5 +38,7 @@ void Disegno::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    m_renderer->render(&painter, rect());
+    QRectF place(QPointF(), QSizeF(m_renderer->defaultSize()).scaled(size(), Qt::KeepAspectRatio));
+    place.moveCenter(QRectF(rect()).center());
+    m_renderer->render(&painter, place);
 }

@@ -1,11 +1,13 @@
 #include "shell/forms/ElencoCartelle.h"
 
+#include "shell/forms/Disegno.h"
+
 #include <QDir>
 #include <QKeyEvent>
-#include <QStyle>
 
 ElencoCartelle::ElencoCartelle(QWidget *parent) : QListWidget(parent)
 {
+    setIconSize(QSize(20, 20));
     connect(this, &QListWidget::itemDoubleClicked, this, &ElencoCartelle::enter);
     setCartella(QDir::currentPath());
 }
@@ -24,9 +26,9 @@ void ElencoCartelle::fill()
 {
     clear();
     const QDir folder(m_cartella);
-    const QIcon icon = style()->standardIcon(QStyle::SP_DirIcon);
+    const QIcon icon = Disegno::icon(":/shell/cartella.svg");
     if (!folder.isRoot())
-        addItem(new QListWidgetItem(style()->standardIcon(QStyle::SP_FileDialogToParent), ".."));
+        addItem(new QListWidgetItem(Disegno::icon(":/shell/su.svg"), ".."));
     const QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString &name : names)
         addItem(new QListWidgetItem(icon, name));

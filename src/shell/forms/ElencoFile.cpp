@@ -1,12 +1,36 @@
 #include "shell/forms/ElencoFile.h"
 
+#include "shell/forms/Disegno.h"
+
 #include <QDir>
+
+namespace {
+
+// What the engine keeps beside an archive while it is open; whoever took it for the archive would lose rows.
+bool isCompanion(const QDir &folder, const QString &file)
+{
+    for (const QLatin1String end : {QLatin1String("-wal"), QLatin1String("-shm"), QLatin1String("-journal")})
+        if (file.endsWith(end) && folder.exists(file.chopped(end.size())))
+            return true;
+    return false;
+}
+
+} // namespace
+
+ElencoFile::ElencoFile(QWidget *parent) : QListWidget(parent)
+{
+    setIconSize(QSize(20, 20));
+}
 
 void ElencoFile::mostra(const QString &folder)
 {
     clear();
     const QStringList patterns = m_pattern.isEmpty() ? QStringList() : QStringList(m_pattern);
-    addItems(QDir(folder).entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase));
+    const QDir directory(folder);
+    const QIcon icon = Disegno::icon(":/shell/file.svg");
+    for (const QString &file : directory.entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase))
+        if (!isCompanion(directory, file))
+            addItem(new QListWidgetItem(icon, file));
 }
 
 void ElencoFile::seleziona(const QString &file)

@@ -8,7 +8,7 @@ class ElencoFile : public QListWidget
     Q_OBJECT
 
 public:
-    using QListWidget::QListWidget;
+    explicit ElencoFile(QWidget *parent = nullptr);
 
     void setFiltro(const QString &pattern) { m_pattern = pattern; } // one name or pattern, case does not matter
     void mostra(const QString &folder);                             // nothing is selected afterwards

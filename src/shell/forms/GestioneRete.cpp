@@ -34,6 +34,9 @@ GestioneRete::GestioneRete(FormHost &host, ModNetServer &modulo)
     m_ui->File1->setFiltro("NetServer.mdb");
     m_ui->SSTab1->setCurrentIndex(kDataTab);
     m_ui->Command2->setDefault(true);
+    QFont heading = m_ui->Label4->font();
+    heading.setWeight(QFont::DemiBold);
+    m_ui->Label4->setFont(heading);
     connectHandlers();
 }
 
@@ -147,6 +150,8 @@ QString GestioneRete::scegliFile()
     QFileDialog dialog(this, "Database per le stampe", m_ui->Dir2->cartella(), "Mdb Files (*.Mdb)");
     dialog.setObjectName("CommonDialog1");
     dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::ReadOnly); // to choose is all there is to do
+    dialog.setViewMode(QFileDialog::List);
     dialog.setFileMode(QFileDialog::ExistingFile);
     wordButtons(dialog);
     QEventLoop loop;

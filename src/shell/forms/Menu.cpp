@@ -139,8 +139,7 @@ void Menu::mnuVisualizza_Click()
         TogliSegnoSfondo(folder);
         return;
     }
-    mostraSfondo(true);
-    raise(); // the background comes up behind this window, which stays in reach
+    mostraSfondo(true); // it comes up behind this window, which stays in reach
     SegnaSfondo(folder);
 }
 

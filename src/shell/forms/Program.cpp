@@ -17,6 +17,12 @@
 #include <QApplication>
 #include <QIcon>
 
+// The drawings are part of a static library, which nobody initialises by itself. Outside any namespace, as Qt asks.
+static void initResources()
+{
+    Q_INIT_RESOURCE(shell);
+}
+
 struct Program::Private
 {
     Private(const ProgramFolder &folder, Programmi &programmi, Orologio &orologio, Dado &dado, Schermo &schermo)
@@ -63,6 +69,7 @@ Program::Program(const ProgramFolder &folder, Programmi &programmi, Orologio &or
 {
     // Between two modal windows none is open: that is no end of the program.
     QApplication::setQuitOnLastWindowClosed(false);
+    initResources();
     QApplication::setWindowIcon(Disegno::icon(":/shell/cibra.svg"));
     m_private->host.report = [this](const Failure &failure) { m_private->report(failure); };
     m_private->setFactories();

@@ -30,11 +30,8 @@ Sfondo::~Sfondo() = default;
 void Sfondo::mostra()
 {
     setEnabled(false);
-    if (!isVisible()) {
-        setWindowState(windowState() | Qt::WindowMaximized);
-        showModeless();
-    }
-    lower();
+    setWindowState(windowState() | Qt::WindowMaximized);
+    showModeless();
 }
 
 void Sfondo::RefreshSfondo()
