@@ -26,6 +26,8 @@ empty) ;;
     ;;
 esac
 [ ! -d "$scenario.folder" ] || cp -r "$scenario.folder/." "$folder/"
+password=$(setting password "")
+[ -z "$password" ] || printf '%s\n%s\n' "$password" "$password" | "$archivio" proteggi "$folder/Archivio/famiglia.db"
 
 # Pictures go there, and are for whoever plays the script by hand.
 mkdir "$folder/Immagini"

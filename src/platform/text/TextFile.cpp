@@ -110,7 +110,7 @@ void TextWriter::writeTo(const QByteArray &bytes, bool append) const
         throw Failure::usual(FailureNumber::PathAccess, m_path);
 }
 
-TextReader::TextReader(const QString &path)
+TextReader::TextReader(const QString &path) : m_path(path)
 {
     const QString text = decoded(contentOf(path));
     if (text.isEmpty())
@@ -132,6 +132,6 @@ bool TextReader::atEnd() const
 QString TextReader::line()
 {
     if (atEnd())
-        throw Failure::usual(FailureNumber::InputPastEnd);
+        throw Failure::usual(FailureNumber::InputPastEnd, m_path);
     return m_lines[m_next++];
 }

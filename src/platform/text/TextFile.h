@@ -55,6 +55,7 @@ public:
     QString line(); // throws Failure(InputPastEnd)
 
 private:
+    QString m_path;
     QStringList m_lines;
     qsizetype m_next = 0;
 };
