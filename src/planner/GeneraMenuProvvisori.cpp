@@ -69,7 +69,7 @@ constexpr Pasti kCena{{
 
 Value PrendiPiatto(Recordset &rs)
 {
-    const Value Piatto = rs.value("Piatto");
+    Value Piatto = rs.value("Piatto");
     rs.MoveNext();
     if (rs.Eof())
         rs.MoveFirst();
