@@ -231,7 +231,9 @@ void doubleClickOn(const QString &name)
 
 void hoverOver(const QString &name)
 {
-    QWidget *const widget = reachable(name).widget;
+    QWidget *widget = reachable(name).widget;
+    if (auto *area = qobject_cast<QAbstractScrollArea *>(widget))
+        widget = area->viewport();
     static QPointer<QWidget> before;
     if (before && before != widget) {
         QEvent leave(QEvent::Leave);

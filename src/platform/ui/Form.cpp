@@ -49,6 +49,28 @@ private:
     Form &m_form;
 };
 
+// Sees the keys of all controls of the form before they do. It is an object of its own, so that a form's own event
+// filter sees nothing twice.
+class Form::KeyPreview : public QObject
+{
+public:
+    explicit KeyPreview(Form &form) : QObject(&form), m_form(form) { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::KeyPress || !watched->isWidgetType() || QApplication::activePopupWidget())
+            return false;
+        const auto *widget = static_cast<QWidget *>(watched);
+        // A key that a control leaves alone comes again for each of its parents; only the first time counts.
+        QWidget *const focused = m_form.focusWidget();
+        const bool isTarget = widget->window() == &m_form && widget == (focused ? focused : &m_form);
+        return isTarget && m_form.previewKey(static_cast<QKeyEvent *>(event));
+    }
+
+private:
+    Form &m_form;
+};
+
 Form::Form(const QString &name, FormHost &host) : m_host(host)
 {
     setObjectName(name);
@@ -57,7 +79,7 @@ Form::Form(const QString &name, FormHost &host) : m_host(host)
     m_resizeTimer.setSingleShot(true);
     m_resizeTimer.setInterval(kResizeRest);
     connect(&m_resizeTimer, &QTimer::timeout, this, [this] { runResize(); });
-    qApp->installEventFilter(this);
+    new KeyPreview(*this); // a child of the form
 }
 
 Form::~Form()
@@ -180,19 +202,6 @@ bool Form::event(QEvent *event)
     if (event->type() == QEvent::Hide && !event->spontaneous() && m_modalLoop)
         m_modalLoop->quit();
     return QMainWindow::event(event);
-}
-
-// Sees the keys of all controls of the form before they do.
-bool Form::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() || QApplication::activePopupWidget())
-        return QMainWindow::eventFilter(watched, event);
-    const auto *widget = static_cast<QWidget *>(watched);
-    // A key that a control leaves alone comes again for each of its parents; only the first time counts.
-    const bool isTarget = widget->window() == this && widget == (focusWidget() ? focusWidget() : this);
-    if (isTarget && previewKey(static_cast<QKeyEvent *>(event)))
-        return true;
-    return QMainWindow::eventFilter(watched, event);
 }
 
 bool Form::previewKey(QKeyEvent *key)

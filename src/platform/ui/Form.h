@@ -80,7 +80,6 @@ protected:
     void runHandler(const std::function<void()> &handler);
 
     bool event(QEvent *) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *) override;
     void keyPressEvent(QKeyEvent *) override;
     void resizeEvent(QResizeEvent *) override;
@@ -88,6 +87,7 @@ protected:
 
 private:
     class Busy;
+    class KeyPreview;
 
     void runResize();
     void deleteIfIdle();
