@@ -11,6 +11,16 @@ UPDATE Sostituisci SET Sostituisci.Preferito = True, Sostituisci.Ordine = 1 WHER
 => acts
 UPDATE Sostituisci SET Preferito = 1, Ordine = 1 WHERE Preferito <> 0
 
+-- [set-word] a column named like a word of the language gets brackets when it loses its table
+UPDATE T SET T.Order = T.Order + 1
+=> acts
+UPDATE T SET [Order] = T.Order + 1
+
+-- [subselect] a select within brackets has its own list and conditions
+SELECT Trim(a) AS x, (SELECT Max(b) FROM U WHERE Trim(c) = Trim(T.c)) AS y, Trim(d) AS z FROM T
+=> writes T
+SELECT Trim(a) AS x, (SELECT Max(b) FROM U WHERE (Trim(c) COLLATE NOCASE) = (Trim(T.c) COLLATE NOCASE)) AS y, Trim(d) AS z, T.rowid AS jet_key FROM T ORDER BY T.rowid
+
 -- [insert] values are rewritten one by one
 INSERT INTO Menu (DataMenu, Colazione) VALUES (#3/2/2025#, Null)
 => acts

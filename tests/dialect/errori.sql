@@ -53,6 +53,10 @@ DELETE * FROM Menu;;
 SELECT * FROM Menu WHERE Cena = ?
 !! Errore di sintassi nell'istruzione: segno inatteso "?"
 
+-- [point] a point stands between names
+SELECT * FROM Menu WHERE Menu. = 1
+!! Errore di sintassi nell'istruzione: un punto è fuori posto
+
 -- [empty] nothing but blanks
    
 !! L'istruzione è vuota

@@ -31,9 +31,10 @@ bool beginsClause(const JetTokens &tokens, int at)
     }
 }
 
-bool unites(JetWord word)
+// Whether more than the one select goes on here.
+bool beginsAnother(JetWord word)
 {
-    return word == JetWord::Union || word == JetWord::Except || word == JetWord::Intersect;
+    return word == JetWord::Union || word == JetWord::Except || word == JetWord::Intersect || word == JetWord::Select;
 }
 
 // Finds the clauses one behind the other.
@@ -53,7 +54,7 @@ public:
         clauses.having = next(JetWord::Having);
         clauses.order = next(JetWord::Order);
         clauses.rest = next(JetWord::Limit);
-        clauses.isPlain = m_at == lastToken(m_tokens) && !m_unites && !distinct && !clauses.from.isEmpty();
+        clauses.isPlain = m_at == lastToken(m_tokens) && !m_several && !distinct && !clauses.from.isEmpty();
         return clauses;
     }
 
@@ -67,7 +68,7 @@ private:
     {
         JetRange clause{m_at, m_at + 1};
         while (clause.to < lastToken(m_tokens) && !beginsClause(m_tokens, clause.to)) {
-            m_unites = m_unites || unites(m_tokens[clause.to].word);
+            m_several = m_several || beginsAnother(m_tokens[clause.to].word);
             clause.to = behind(m_tokens, clause.to);
         }
         m_at = clause.to;
@@ -76,7 +77,7 @@ private:
 
     const JetTokens &m_tokens;
     int m_at;
-    bool m_unites = false;
+    bool m_several = false;
 };
 
 bool joins(const JetToken &token)
@@ -205,6 +206,21 @@ bool isAggregate(JetWord word)
     }
 }
 
+// Looks into brackets, but not into selects within them: these have calls of their own.
+template <typename Predicate>
+bool callsAny(const JetTokens &tokens, JetRange range, Predicate isOne)
+{
+    for (int at = range.from; at < range.to; ++at) {
+        if (!tokens[at].is(u'('))
+            continue;
+        if (at > range.from && isOne(tokens[at - 1].word))
+            return true;
+        if (tokens[at + 1].is(JetWord::Select))
+            at = tokens[at].match;
+    }
+    return false;
+}
+
 } // namespace
 
 JetClauses readClauses(const JetTokens &tokens, int at)
@@ -230,15 +246,18 @@ JetTables readTables(const JetTokens &tokens, JetRange from)
 JetRanges readTerms(const JetTokens &tokens, JetRange clause)
 {
     JetRanges terms;
+    const auto add = [&](int from, int to) {
+        if (from < to)
+            terms.append(withoutDirection(tokens, {from, to}));
+    };
     int begin = clause.from + 2;
     for (int at = begin; at < clause.to; at = behind(tokens, at)) {
         if (!tokens[at].is(u','))
             continue;
-        terms.append(withoutDirection(tokens, {begin, at}));
+        add(begin, at);
         begin = at + 1;
     }
-    if (begin < clause.to)
-        terms.append(withoutDirection(tokens, {begin, clause.to}));
+    add(begin, clause.to);
     return terms;
 }
 
@@ -273,8 +292,10 @@ bool comparesOnly(const JetTokens &tokens, JetRange having, const JetRanges &key
 
 bool callsAggregate(const JetTokens &tokens, JetRange range)
 {
-    for (int at = range.from; at < range.to; ++at)
-        if (isAggregate(tokens[at].word) && tokens[at + 1].is(u'('))
-            return true;
-    return false;
+    return callsAny(tokens, range, isAggregate);
+}
+
+bool picksRows(const JetTokens &tokens, JetRange range)
+{
+    return callsAny(tokens, range, [](JetWord word) { return word == JetWord::First || word == JetWord::Last; });
 }

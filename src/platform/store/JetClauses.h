@@ -39,4 +39,6 @@ bool sameExpression(const JetTokens &tokens, JetRange one, JetRange other);
 // Whether a HAVING compares nothing but columns that are among `keys`, so that it may stand before the grouping.
 bool comparesOnly(const JetTokens &tokens, JetRange having, const JetRanges &keys);
 
+// Whether a list asks for sums, counts and the like; whether for First or Last.
 bool callsAggregate(const JetTokens &tokens, JetRange range);
+bool picksRows(const JetTokens &tokens, JetRange range);

@@ -85,14 +85,6 @@ bool sameWord(QStringView text, QLatin1String word)
     return true;
 }
 
-JetWord wordOf(QStringView text)
-{
-    for (const Known &known : wordsOfLength(text.size()))
-        if (sameWord(text, known.text))
-            return known.word;
-    return JetWord::None;
-}
-
 bool isBlank(char16_t sign)
 {
     return sign == u' ' || (sign >= u'\t' && sign <= u'\r');
@@ -126,6 +118,8 @@ public:
             checkNothingFollows();
         if (!m_open.isEmpty())
             fail(QStringLiteral("manca una parentesi tonda"));
+        if (followsPoint())
+            failAtPoint();
         m_tokens.append(JetToken());
         return std::move(m_tokens);
     }
@@ -169,8 +163,13 @@ private:
             readSymbol();
     }
 
+    // A point stands between names; behind it also the star of "T.*".
+    [[noreturn]] void failAtPoint() const { fail(QStringLiteral("un punto è fuori posto")); }
+
     JetToken &add(JetKind kind, QStringView text)
     {
+        if (followsPoint() && kind != JetKind::Word && kind != JetKind::Name && text != u"*")
+            failAtPoint();
         JetToken token;
         token.text = text;
         token.kind = kind;
@@ -268,7 +267,7 @@ private:
         const bool column = followsPoint();
         JetToken &token = add(JetKind::Word, taken(from));
         if (!column)
-            token.word = wordOf(token.text);
+            token.word = jetWordOf(token.text);
     }
 
     void readSymbol()
@@ -307,8 +306,12 @@ private:
 
     void nameBeforePoint()
     {
-        if (m_tokens.size() > 1)
-            m_tokens[m_tokens.size() - 2].word = JetWord::None;
+        if (m_tokens.size() == 1)
+            failAtPoint();
+        JetToken &name = m_tokens[m_tokens.size() - 2];
+        if (name.kind != JetKind::Word && name.kind != JetKind::Name)
+            failAtPoint();
+        name.word = JetWord::None;
     }
 
     void close()
@@ -330,6 +333,14 @@ private:
 };
 
 } // namespace
+
+JetWord jetWordOf(QStringView text)
+{
+    for (const Known &known : wordsOfLength(text.size()))
+        if (sameWord(text, known.text))
+            return known.word;
+    return JetWord::None;
+}
 
 JetTokens readJetTokens(const QString &statement)
 {

@@ -89,6 +89,9 @@ struct JetToken
 // The last one is of kind End. The texts point into the statement.
 using JetTokens = QVarLengthArray<JetToken, 192>;
 
+// What a word means where no point stands beside it.
+JetWord jetWordOf(QStringView text);
+
 // A point inside square brackets parts table and column: [piatti.quantita] gives [piatti] . [quantita].
 // The first semicolon ends the statement and is no token. Throws Failure(Engine): an open literal or bracket, a sign
 // that no statement holds, text behind the semicolon.

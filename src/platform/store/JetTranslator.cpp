@@ -106,16 +106,8 @@ private:
     void writeGroup()
     {
         m_writer.write(m_clauses.group);
-        if (m_clauses.group.isEmpty() && picksRows())
+        if (m_clauses.group.isEmpty() && !m_tables.isEmpty() && picksRows(m_tokens, m_clauses.list))
             m_writer.add(u"GROUP BY NULL");
-    }
-
-    bool picksRows() const
-    {
-        for (int at = m_clauses.list.from; at < m_clauses.list.to; ++at)
-            if ((m_tokens[at].is(JetWord::First) || m_tokens[at].is(JetWord::Last)) && m_tokens[at + 1].is(u'('))
-                return !m_tables.isEmpty();
-        return false;
     }
 
     void writeOrder()

@@ -55,7 +55,7 @@ void JetWriter::addKeyOf(const JetToken &table)
 // Where the next token to be written stands. The left side of an assignment is written without its table.
 int JetWriter::behindQualifier(int at) const
 {
-    const bool assigns = m_place == Place::Assignment && m_depth == 0;
+    const bool assigns = m_place == Place::Assignment && m_outer.isEmpty();
     const bool leftSide = assigns && (m_tokens[at].is(JetWord::Set) || m_tokens[at].is(u','));
     int next = at + 1;
     while (leftSide && m_tokens[next].isName() && m_tokens[next + 1].is(u'.'))
@@ -70,7 +70,8 @@ void JetWriter::enterPlace(JetWord word)
         m_place = Place::List;
         break;
     case JetWord::Set:
-        m_place = Place::Assignment;
+        if (m_tokens.front().is(JetWord::Update))
+            m_place = Place::Assignment;
         break;
     case JetWord::From:
     case JetWord::On:
@@ -96,10 +97,7 @@ void JetWriter::writeToken(int at)
         m_out.append(u'[').append(token.text).append(u']');
         break;
     case JetKind::Number:
-        m_out.append(token.text);
-        // Whole numbers would be divided as such: 250/100 is 2.5, not 2.
-        if (at > 0 && m_tokens[at - 1].is(u'/') && isWhole(token.text))
-            m_out.append(u".0");
+        writeNumber(at, token.text);
         break;
     case JetKind::Text:
         writeText(token);
@@ -113,6 +111,14 @@ void JetWriter::writeToken(int at)
     case JetKind::End:
         break;
     }
+}
+
+// Whole numbers would be divided as such: 250/100 is 2.5, not 2.
+void JetWriter::writeNumber(int at, QStringView number)
+{
+    m_out.append(number);
+    if (at > 0 && m_tokens[at - 1].is(u'/') && isWhole(number))
+        m_out.append(u".0");
 }
 
 bool JetWriter::isCall(int at) const
@@ -129,16 +135,27 @@ bool JetWriter::isComparedTrim(int at) const
            !m_tokens[m_tokens[at + 1].match + 1].is(JetWord::Collate);
 }
 
+// A column named like a word of the language needs brackets where its table is left out.
+void JetWriter::writeName(int at)
+{
+    const JetToken &token = m_tokens[at];
+    const bool lostTable = at > 0 && m_tokens[at - 1].is(u'.') && !m_out.endsWith(u'.');
+    if (lostTable && jetWordOf(token.text) != JetWord::None)
+        m_out.append(u'[').append(token.text).append(u']');
+    else
+        m_out.append(token.text);
+}
+
 void JetWriter::writeWord(int at)
 {
     const JetToken &token = m_tokens[at];
     enterPlace(token.word);
     switch (token.word) {
     case JetWord::True:
-        m_out.append(at > 0 && isTrueTest(at - 1) ? u'0' : u'1');
+        writeNumber(at, at > 0 && isTrueTest(at - 1) ? u"0" : u"1");
         break;
     case JetWord::False:
-        m_out.append(u'0');
+        writeNumber(at, u"0");
         break;
     case JetWord::Trim:
     case JetWord::LTrim:
@@ -148,7 +165,7 @@ void JetWriter::writeWord(int at)
         writeCall(at);
         break;
     default:
-        m_out.append(token.text);
+        writeName(at);
         break;
     }
 }
@@ -202,14 +219,14 @@ void JetWriter::writeDay(const JetToken &token)
 bool JetWriter::isTrueTest(int at) const
 {
     return m_tokens[at].is(u'=') && m_tokens[at + 1].is(JetWord::True) &&
-           !(m_place == Place::Assignment && m_depth == 0);
+           !(m_place == Place::Assignment && m_outer.isEmpty());
 }
 
 void JetWriter::writeSymbol(int at)
 {
     const JetToken &token = m_tokens[at];
     if (token.is(u'(')) {
-        ++m_depth;
+        m_outer.append(m_place);
     } else if (token.is(u')')) {
         closeBracket(at);
         return;
@@ -227,7 +244,8 @@ void JetWriter::writeSymbol(int at)
 
 void JetWriter::closeBracket(int at)
 {
-    --m_depth;
+    m_place = m_outer.last();
+    m_outer.removeLast();
     if (m_closings.isEmpty() || m_closings.last().bracket != at) {
         m_out.append(u')');
         return;

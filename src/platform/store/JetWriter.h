@@ -40,6 +40,8 @@ private:
     void enterPlace(JetWord word);
     void writeToken(int at);
     void writeWord(int at);
+    void writeNumber(int at, QStringView number);
+    void writeName(int at);
     void writeCall(int at);
     void writeText(const JetToken &token);
     void writeDay(const JetToken &token);
@@ -56,6 +58,6 @@ private:
     const JetToken *m_keyOwner;
     QString m_out;
     Place m_place = Place::List;
-    int m_depth = 0;
+    QVarLengthArray<Place, 32> m_outer; // of the open brackets; a select within one has places of its own
     QVarLengthArray<Closing, 8> m_closings;
 };
