@@ -8,6 +8,9 @@
 
 #include <QByteArray>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 int collate(void *, int leftSize, const void *left, int rightSize, const void *right)
@@ -31,6 +34,20 @@ bool isStoredDay(QByteArrayView text)
            digitsAt(text, 8, 2);
 }
 
+// The usual spelling dd/mm/yyyy read byte by byte: a list of days asks for it once a row. False for all others.
+bool readUsualDay(QByteArrayView text, char *stored)
+{
+    if (text.size() != 10 || text[2] != '/' || text[5] != '/' || !digitsAt(text, 0, 2) || !digitsAt(text, 3, 2) ||
+        !digitsAt(text, 6, 4))
+        return false;
+    const auto number = [text](int from, int count) { return text.sliced(from, count).toInt(); };
+    if (!QDate::isValid(number(6, 4), number(3, 2), number(0, 2)))
+        return false;
+    const char order[] = {text[6], text[7], text[8], text[9], '-', text[3], text[4], '-', text[0], text[1]};
+    std::copy(std::begin(order), std::end(order), stored);
+    return true;
+}
+
 // A text that is no day gives null, so that one bad row does not end a whole statement.
 void cdate(sqlite3_context *context, int, sqlite3_value **arguments)
 {
@@ -40,6 +57,11 @@ void cdate(sqlite3_context *context, int, sqlite3_value **arguments)
     const QByteArrayView told(text, sqlite3_value_bytes(arguments[0]));
     if (isStoredDay(told)) {
         sqlite3_result_value(context, arguments[0]);
+        return;
+    }
+    char usual[10];
+    if (readUsualDay(told, usual)) {
+        sqlite3_result_text(context, usual, sizeof usual, SQLITE_TRANSIENT);
         return;
     }
     const QDate day = dayFromText(QString::fromUtf8(told));
