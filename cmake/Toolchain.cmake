@@ -21,7 +21,7 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  add_compile_options($<$<CONFIG:Release>:-Wno-restrict>) # optimising, g++ 12 sees overlaps in joined std::strings where there are none
+  add_compile_options(-Wno-restrict) # optimising, g++ 12 sees overlaps in joined std::strings where there are none
 endif()
 if(CIBRA_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
