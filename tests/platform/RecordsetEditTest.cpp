@@ -210,6 +210,11 @@ TEST_F(RecordsetEditTest, AColumnNamedTwiceIsTheFirstOneAndBothFollowAChange)
     twice.Update();
     EXPECT_EQ(twice.value(0), Value(u"x"_s));
     EXPECT_EQ(twice.value(3), Value(u"x"_s));
+    twice.AddNew();
+    twice.setValue(u"Nome"_s, u"y"_s);
+    twice.Update();
+    EXPECT_EQ(twice.value(1), twice.value(2));
+    EXPECT_EQ(twice.value(3), Value(u"y"_s));
 }
 
 TEST_F(RecordsetEditTest, GroupedAndReadOnlySetsRefuseEveryWrite)

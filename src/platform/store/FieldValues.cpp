@@ -24,18 +24,12 @@ struct CellOf
 {
     Snapshot &texts;
 
-    Cell textCell(const QString &text) const
-    {
-        const QByteArray bytes = text.toUtf8();
-        return texts.text(bytes.constData(), std::size_t(bytes.size()));
-    }
-
     Cell operator()(std::monostate) const { return Cell{}; }
     Cell operator()(qint64 whole) const { return Cell::ofWhole(whole); }
     Cell operator()(double number) const { return Cell::ofNumber(number); }
     Cell operator()(bool yes) const { return Cell::ofWhole(yes ? 1 : 0); }
-    Cell operator()(const QString &text) const { return textCell(text); }
-    Cell operator()(QDate day) const { return textCell(day.toString(Qt::ISODate)); }
+    Cell operator()(const QString &text) const { return texts.text(text); }
+    Cell operator()(QDate day) const { return texts.text(day.toString(Qt::ISODate)); }
 };
 
 } // namespace

@@ -196,6 +196,8 @@ char32_t foldedLetter(char32_t letter)
 
 int compareFolded(QByteArrayView left, QByteArrayView right)
 {
+    if (left == right)
+        return 0;
     return Comparison(left, right).result();
 }
 

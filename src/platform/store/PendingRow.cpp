@@ -32,10 +32,16 @@ std::vector<CellChange> PendingRow::changes(const ResultShape &shape, const Cell
     return found;
 }
 
-void PendingRow::apply(const ResultShape &shape, const std::vector<CellChange> &changes, Cell *row)
+void PendingRow::apply(const ResultShape &shape, Cell *row) const
 {
-    for (const CellChange &change : changes)
-        for (std::size_t field = 0; field < shape.fields.size(); ++field)
-            if (shape.tableColumns[field] == change.column)
-                row[field] = change.after;
+    for (std::size_t field = 0; field < m_cells.size(); ++field) {
+        if (m_assigned[field] == 0)
+            continue;
+        row[field] = m_cells[field];
+        if (!shape.repeatsColumns)
+            continue;
+        for (std::size_t other = 0; other < m_cells.size(); ++other)
+            if (shape.tableColumns[other] == shape.tableColumns[field])
+                row[other] = m_cells[field];
+    }
 }

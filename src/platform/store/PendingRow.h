@@ -28,8 +28,8 @@ public:
 
     // What must be written: assigned fields whose cells differ from `row`, or all assigned ones of a new row.
     std::vector<CellChange> changes(const ResultShape &shape, const Cell *row) const;
-    // Puts what was written into the row, also into further fields of the same column.
-    static void apply(const ResultShape &shape, const std::vector<CellChange> &changes, Cell *row);
+    // Puts the assigned cells into the row, also into further fields of the same columns.
+    void apply(const ResultShape &shape, Cell *row) const;
 
 private:
     Kind m_kind = Kind::None;

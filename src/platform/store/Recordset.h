@@ -38,7 +38,7 @@ public:
     {
         Updatable,  // where the statement allows it: one table, no grouping
         ReadOnly,   // AddNew and writes throw NotPermitted
-        AppendOnly, // no row is read: the set is there to be added to
+        AppendOnly, // no row is read: the set is there to be added to, and keeps the row added last alone
     };
 
     Recordset();
@@ -63,7 +63,7 @@ public:
     void Move(int rows); // relative; past an end it stands at Bof or Eof
 
     // Forward from the current row, the current row included: "Column op 'value'", op one of = <> < > <= >= like.
-    // No match leaves the set at Eof.
+    // No match leaves the set at Eof; from Eof there is none. Throws NoSuchField, and Engine for another form.
     void Find(const QString &criterion);
     // One condition of the same form, or "column = true"; "" shows all rows again. The first row that passes becomes
     // current.
@@ -71,6 +71,9 @@ public:
     const QString &filter() const;
 
     void AddNew();       // a new, empty, pending row becomes current
+    // What waits for Update is written first by every move, Find, setFilter and AddNew; Requery and Close drop it. What
+    // cannot be written stays waiting. Update throws RowChanged where another program has meanwhile changed one of the
+    // fields or deleted the row: its change is kept.
     void Update();       // writes the changed fields of the current row, or the new row with its generated key
     void UpdateBatch();  // Update where something is pending, else nothing
     void CancelUpdate(); // drops what is pending; after AddNew the former row is current again
@@ -93,7 +96,7 @@ public:
     // Of row `row` (from 0) among those that pass the filter, without moving the cursor: for grids and lists.
     Value valueAt(int row, int column) const;
 
-    // All rows from the current one on: columns by ";", null as "", each row ended by CR.
+    // All rows from the current one on: columns by ";", null as "", each row ended by CR. Leaves the set at Eof.
     QString GetString();
 
     bool isUpdatable() const;

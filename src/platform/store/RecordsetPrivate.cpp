@@ -176,15 +176,15 @@ void Recordset::Private::writePending()
     if (!pending)
         return;
     const std::shared_ptr<Database> opened = connected();
-    std::vector<CellChange> changes = pending.changes(*shape, currentCells());
+    const std::vector<CellChange> changes = pending.changes(*shape, currentCells());
     if (pending.kind() == PendingRow::Kind::New)
-        writeNew(*opened, std::move(changes));
+        writeNew(*opened, changes);
     else if (!changes.empty())
         writeEdit(*opened, changes);
     pending.drop();
 }
 
-void Recordset::Private::writeNew(Database &opened, std::vector<CellChange> cells)
+void Recordset::Private::writeNew(Database &opened, const std::vector<CellChange> &cells)
 {
     qint64 key = 0;
     opened.group().run(source, [&] { key = opened.writer(shape->table).insert(cells, source); });
@@ -192,11 +192,11 @@ void Recordset::Private::writeNew(Database &opened, std::vector<CellChange> cell
     for (std::size_t field = 0; field < shape->fields.size(); ++field) {
         const int column = shape->tableColumns[field];
         if (column >= 0)
-            row[field] = storedCell(shape->table->columns[std::size_t(column)].byDefault, snapshot);
+            row[field] = column == shape->table->keyColumn
+                             ? Cell::ofWhole(key)
+                             : storedCell(shape->table->columns[std::size_t(column)].byDefault, snapshot);
     }
-    if (shape->table->keyColumn >= 0)
-        cells.push_back({shape->table->keyColumn, Cell{}, Cell::ofWhole(key)});
-    PendingRow::apply(*shape, cells, row);
+    pending.apply(*shape, row);
     row[shape->keyCell()] = Cell::ofWhole(key);
 }
 
@@ -207,7 +207,7 @@ void Recordset::Private::writeEdit(Database &opened, const std::vector<CellChang
     opened.group().run(source, [&] { written = opened.writer(shape->table).update(key, changes, source); });
     if (!written)
         throw rowChanged();
-    PendingRow::apply(*shape, changes, currentCells());
+    pending.apply(*shape, currentCells());
 }
 
 Failure Recordset::Private::rowChanged() const

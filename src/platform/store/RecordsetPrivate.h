@@ -46,7 +46,7 @@ struct Recordset::Private
 private:
     std::shared_ptr<Database> connected() const; // throws ConnectionClosed
     void forgetAppended();
-    void writeNew(Database &opened, std::vector<CellChange> cells);
+    void writeNew(Database &opened, const std::vector<CellChange> &cells);
     void writeEdit(Database &opened, const std::vector<CellChange> &changes);
     Failure rowChanged() const;
     Cell *currentCells() { return snapshot.row(rows.row(rows.position())); }

@@ -2,6 +2,7 @@
 
 #include "platform/store/SelectItems.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -72,8 +73,16 @@ private:
         if (day)
             field.type = ColumnType::Date;
         m_shape->fields.push_back(std::move(field));
-        m_shape->tableColumns.push_back(declared && origin.table == m_shape->table ? origin.column : -1);
+        noteTableColumn(declared && origin.table == m_shape->table ? origin.column : -1);
         m_shape->typeByValues.push_back(!declared && !day);
+    }
+
+    void noteTableColumn(int column)
+    {
+        std::vector<int> &known = m_shape->tableColumns;
+        if (column >= 0 && std::find(known.begin(), known.end(), column) != known.end())
+            m_shape->repeatsColumns = true;
+        known.push_back(column);
     }
 
     const Statement &m_statement;

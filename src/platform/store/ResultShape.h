@@ -15,6 +15,7 @@ struct ResultShape
     std::vector<FieldInfo> fields;
     std::vector<int> tableColumns;          // of each field, -1 where it is an expression
     std::vector<bool> typeByValues;         // of each field: nothing is declared, its values decide
+    bool repeatsColumns = false;            // one table column is in the result twice
     int columns = 0;                        // of the result, a hidden key included
     std::shared_ptr<const TableInfo> table; // null where the set is read-only
 

@@ -1,5 +1,7 @@
 #include "platform/store/Snapshot.h"
 
+#include <QStringConverter>
+
 #include <algorithm>
 #include <cstring>
 
@@ -51,14 +53,19 @@ void Snapshot::start(int columns)
     m_columns = columns;
 }
 
-Cell *Snapshot::addRow()
+Cell *Snapshot::addUnsetRow()
 {
     if (m_rows == m_capacity) {
         const std::uint32_t more = m_blocks.empty() ? kFirstRows : kRowsInBlock;
         m_blocks.push_back(std::make_unique_for_overwrite<Cell[]>(more * std::size_t(m_columns)));
         m_capacity += more;
     }
-    Cell *const first = row(m_rows++);
+    return row(m_rows++);
+}
+
+Cell *Snapshot::addRow()
+{
+    Cell *const first = addUnsetRow();
     std::fill_n(first, m_columns, Cell{});
     return first;
 }
@@ -78,11 +85,29 @@ char *Snapshot::room(std::size_t size)
     return taken;
 }
 
+void Snapshot::giveBack(std::size_t size)
+{
+    m_free -= size;
+    m_freeSize += size;
+    m_textBytes -= size;
+}
+
 Cell Snapshot::text(const char *bytes, std::size_t size)
 {
-    if (size == 0)
+    if (size == 0) // where `bytes` may be null
         return Cell::ofText("", 0);
     char *const copy = room(size);
     std::memcpy(copy, bytes, size);
     return Cell::ofText(copy, std::uint32_t(size));
+}
+
+Cell Snapshot::text(QStringView text)
+{
+    // A character takes three bytes at most; what is left over serves the next text.
+    const std::size_t most = std::size_t(text.size()) * 3;
+    char *const start = room(most);
+    const char *const end = QStringEncoder(QStringConverter::Utf8).appendToBuffer(start, text);
+    const auto size = std::size_t(end - start);
+    giveBack(most - size);
+    return Cell::ofText(start, std::uint32_t(size));
 }

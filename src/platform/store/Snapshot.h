@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <QStringView>
 
 #include <cstdint>
 #include <memory>
@@ -41,12 +42,14 @@ public:
     int columns() const { return m_columns; }
     std::uint32_t rows() const { return m_rows; }
 
-    Cell *addRow(); // all null
+    Cell *addRow();      // all null
+    Cell *addUnsetRow(); // every cell must be set by the caller
     void dropLastRow() { --m_rows; }
     Cell *row(std::uint32_t row) { return cells(row); }
     const Cell *row(std::uint32_t row) const { return cells(row); }
 
     Cell text(const char *bytes, std::size_t size); // a copy that lives as long as the snapshot
+    Cell text(QStringView text);
     // Bytes of text taken so far, replaced ones included.
     std::size_t textBytes() const { return m_textBytes; }
 
@@ -66,6 +69,7 @@ private:
         return m_blocks[block].get() + inBlock * std::size_t(m_columns);
     }
     char *room(std::size_t size);
+    void giveBack(std::size_t size); // of the room taken last
 
     int m_columns = 0;
     std::uint32_t m_rows = 0;

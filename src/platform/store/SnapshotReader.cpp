@@ -1,8 +1,19 @@
 #include "platform/store/SnapshotReader.h"
 
+#include <cstring>
+
 namespace {
 
-Cell readCell(sqlite3_stmt *statement, int column, Snapshot &snapshot)
+// Neighbouring rows have many texts in common: the day, the meal, the dish. They are kept once.
+Cell textCell(const char *text, std::uint32_t size, const Cell *above, Snapshot &snapshot)
+{
+    const bool repeated = size > 0 && above != nullptr && above->kind == Cell::Kind::Text && above->length == size &&
+                          std::memcmp(above->text, text, size) == 0;
+    return repeated ? *above : snapshot.text(text, size);
+}
+
+// `above` is the cell of the row before, null for the first.
+Cell readCell(sqlite3_stmt *statement, int column, const Cell *above, Snapshot &snapshot)
 {
     switch (sqlite3_column_type(statement, column)) {
     case SQLITE_INTEGER:
@@ -13,7 +24,7 @@ Cell readCell(sqlite3_stmt *statement, int column, Snapshot &snapshot)
         return Cell{};
     default: {
         const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
-        return snapshot.text(text, std::size_t(sqlite3_column_bytes(statement, column)));
+        return textCell(text, std::uint32_t(sqlite3_column_bytes(statement, column)), above, snapshot);
     }
     }
 }
@@ -22,9 +33,11 @@ Cell readCell(sqlite3_stmt *statement, int column, Snapshot &snapshot)
 
 void readRows(Statement &statement, bool anyRow, int columns, Snapshot &snapshot, const QString &told)
 {
+    const Cell *above = nullptr;
     for (bool row = anyRow; row; row = statement.step(told)) {
-        Cell *const cells = snapshot.addRow();
+        Cell *const cells = snapshot.addUnsetRow();
         for (int column = 0; column < columns; ++column)
-            cells[column] = readCell(statement.handle(), column, snapshot);
+            cells[column] = readCell(statement.handle(), column, above == nullptr ? nullptr : above + column, snapshot);
+        above = cells;
     }
 }
