@@ -34,7 +34,7 @@ public:
     void showModeless();
     void unload();                                  // Form_Unload, hide, and the registry drops the form
     bool isUnloaded() const { return m_unloading; } // the object lives on only until its handlers are done
-    bool isResizePending() const { return m_resizeTimer.isActive(); }
+    bool isResizePending() const { return m_resizeTimer.isActive() && !m_inResize; }
     FormHost &host() const { return m_host; }
     // Deletes the form as soon as none of its handlers runs any more. For the registry, its owner until now.
     void deleteWhenIdle();
