@@ -245,8 +245,13 @@ TEST_F(ConnectionTest, ACommitThatFailsIsReportedByTheNextStatement)
         const GruppoScritture group(m_connection);
         m_connection.Execute(u"INSERT INTO Figli (Padre) VALUES (99)"_s);
     }
-    EXPECT_EQ(failureOfStatement(u"DELETE FROM T WHERE ID = 3"_s).words(),
-              u"Il valore non è ammesso dalla tabella (FOREIGN KEY constraint failed)"_s);
+    const QString words = u"Il valore non è ammesso dalla tabella (FOREIGN KEY constraint failed)"_s;
+    const auto failure = failureOf([&] { names(); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->words(), words);
+    EXPECT_EQ(names(), u"a b c"_s);
+    // The group is still open: a write must not slip into it unsaved.
+    EXPECT_EQ(failureOfStatement(u"DELETE FROM T WHERE ID = 3"_s).words(), words);
     EXPECT_EQ(names(), u"a b c"_s);
 }
 
