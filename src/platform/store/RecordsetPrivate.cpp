@@ -10,7 +10,7 @@
 namespace {
 
 // Texts that an append-only set has taken before it gives their memory back.
-constexpr std::size_t kAppendedTexts = 1024 * 1024;
+constexpr std::size_t kAppendedTexts = std::size_t(1024) * 1024;
 
 ColumnType typeByValues(const Snapshot &snapshot, int column)
 {

@@ -57,8 +57,8 @@ private:
     // The first block is small: most sets are a day or a list, and few hold years.
     static constexpr std::uint32_t kFirstRows = 64;
     static constexpr std::uint32_t kRowsInBlock = 512;
-    static constexpr std::size_t kTextBlock = 256 * 1024;
-    static constexpr std::size_t kFirstTextBlock = 4 * 1024;
+    static constexpr std::size_t kTextBlock = std::size_t(256) * 1024;
+    static constexpr std::size_t kFirstTextBlock = std::size_t(4) * 1024;
 
     Cell *cells(std::uint32_t row) const
     {
