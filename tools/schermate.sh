@@ -10,7 +10,9 @@ installa_pacchetti packages.txt
 costruisci release cibra-archivio cibra-copione
 bin=$PWD/build/release/bin
 pictures=$PWD/docs/schermate
-work=$(mktemp -d)
+# Paths show on some screens, so the folder always bears the same name.
+work=${TMPDIR:-/tmp}/cibra
+mkdir "$work"
 trap 'rm -rf "$work"' EXIT
 mkdir -p "$pictures"
 
