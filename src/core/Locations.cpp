@@ -1,5 +1,6 @@
 #include "core/Locations.h"
 
+#include "core/ErrorLog.h"
 #include "platform/Failure.h"
 #include "platform/text/TextFile.h"
 
@@ -125,8 +126,10 @@ void deleteLocations(const ProgramFolder &folder)
     }
 }
 
-void resetLocations(ModNetServer &modulo)
+// The box says no more than that; the cause is in the log and on the background screen.
+void resetLocations(ModNetServer &modulo, const OpenResult &result)
 {
+    ScriviLogErrore(modulo, QStringLiteral("ApriDbDati "), Failure(FailureNumber(result.number), result.words));
     modulo.mondo.dialoghi.MsgBox(QStringLiteral("Reset della procedura - "), MsgFlags::Critical,
                                  QStringLiteral("Errore di COnnessione al Database"));
     deleteLocations(modulo.mondo.folder);
@@ -186,7 +189,7 @@ void ApriDbDati(ModNetServer &modulo, const QString &Percorso)
     case OpenOutcome::PasswordRichiesta:
         return openWithPassword(modulo, path, result);
     case OpenOutcome::Errore:
-        return resetLocations(modulo);
+        return resetLocations(modulo, result);
     }
 }
 

@@ -146,7 +146,7 @@ public:
 
     void run()
     {
-        const GruppoScritture gruppo(m_modulo.dati());
+        GruppoScritture gruppo(m_modulo.dati());
         CancellaSchede();
         SchedaInScrittura scheda(m_modulo);
         CibiDeiPiatti cibi(m_modulo.dati());
@@ -163,6 +163,7 @@ public:
             m_form.ridisegna();
             m_menu.MoveNext();
         }
+        gruppo.close();
     }
 
 private:

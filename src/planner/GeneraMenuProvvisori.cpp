@@ -202,10 +202,11 @@ private:
 void GeneraMenuProvvisori(ModNetServer &modulo, InsiemiPiatti &insiemi, const SceltaMenu &scelta)
 {
     ScriviCheckLog(modulo, scelta);
-    const GruppoScritture gruppo(modulo.dati());
+    GruppoScritture gruppo(modulo.dati());
     if (scelta.Check[10])
         insiemi.SoloPreferiti(modulo.dati());
     Generatore(modulo, insiemi, scelta).run();
+    gruppo.close();
 }
 
 bool ChiediCompilazione(ModNetServer &modulo)

@@ -234,8 +234,11 @@ void SincronizzaKcal(ModNetServer &modulo, const QString &DataGiorno, bool Prima
         failure = std::current_exception();
     }
     {
-        const GruppoScritture group(modulo.dati());
+        GruppoScritture group(modulo.dati());
         writeRows(*day, sides);
+        if (patience.interrupted())
+            group.commit(); // the message will say that it is saved
+        group.close();
     }
     if (failure)
         std::rethrow_exception(failure);

@@ -138,6 +138,21 @@ TEST_F(ConnectionTest, AnotherProgramsLockIsAClearFailure)
     EXPECT_EQ(names(), u"a b c d"_s);
 }
 
+TEST_F(ConnectionTest, AnArchiveThatAnotherProgramHasLockedOpensAndItsStatementsSaySo)
+{
+    m_connection.Close();
+    Connection other;
+    ASSERT_TRUE(other.Open(path()));
+    raw(other, "PRAGMA journal_mode = DELETE");
+    raw(other, "BEGIN EXCLUSIVE");
+    EXPECT_TRUE(m_connection.Open(path()));
+    m_connection.setLockWait(20);
+    EXPECT_EQ(failureOfStatement(u"DELETE FROM T"_s).words(),
+              u"L'archivio è in uso da un altro programma: riprovare tra poco (database is locked)"_s);
+    raw(other, "COMMIT");
+    EXPECT_EQ(names(), u"a b c"_s);
+}
+
 TEST_F(ConnectionTest, AFullDiskIsAClearFailureAndKeepsWhatWasWritten)
 {
     raw(m_connection, "PRAGMA max_page_count = 3");
@@ -232,6 +247,29 @@ TEST_F(ConnectionTest, AGroupOnAConnectionThatClosesMeanwhileKeepsItsRows)
     }
     EXPECT_EQ(rowsSeenFromOutside(), 4);
     EXPECT_EQ(failureNumber([&] { const GruppoScritture closed(m_connection); }), 0);
+}
+
+TEST_F(ConnectionTest, AnOperationThatClosesItsGroupHearsOfAFailedCommitItself)
+{
+    m_connection.Execute(u"CREATE TABLE Figli (Padre INTEGER REFERENCES T (ID) DEFERRABLE INITIALLY DEFERRED)"_s);
+    raw(m_connection, "PRAGMA foreign_keys = ON");
+    GruppoScritture group(m_connection);
+    m_connection.Execute(u"INSERT INTO Figli (Padre) VALUES (99)"_s);
+    const auto failure = failureOf([&] { group.close(); });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->words(), u"Il valore non è ammesso dalla tabella (FOREIGN KEY constraint failed)"_s);
+}
+
+TEST_F(ConnectionTest, ACommitInTheMiddleOfAGroupShowsItsRowsToOthers)
+{
+    GruppoScritture group(m_connection);
+    insert(u"d"_s);
+    EXPECT_EQ(rowsSeenFromOutside(), 3);
+    group.commit();
+    EXPECT_EQ(rowsSeenFromOutside(), 4);
+    insert(u"e"_s);
+    group.close();
+    EXPECT_EQ(rowsSeenFromOutside(), 5);
 }
 
 TEST_F(ConnectionTest, ACommitThatFailsIsReportedByTheNextStatement)

@@ -129,7 +129,7 @@ TEST(NumeroDaTestoTest, TellsTheUserThatTheTypeDoesNotFit)
         NumeroDaTesto("abc");
         FAIL();
     } catch (const Failure &failure) {
-        EXPECT_EQ(failure.words(), "Tipo non corrispondente");
+        EXPECT_EQ(failure.words(), "Tipo non corrispondente: \"abc\" non è un numero");
     }
 }
 

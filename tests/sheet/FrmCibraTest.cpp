@@ -203,7 +203,7 @@ TEST_F(FrmCibraTest, ATargetThatIsNoNumberIsReportedAndTheFormLivesOn)
     show();
     pick("11/01/2025");
     click("Command6");
-    EXPECT_EQ(failures, QStringList("Tipo non corrispondente"));
+    EXPECT_EQ(failures, QStringList("Tipo non corrispondente: \"mille\" non è un numero"));
     EXPECT_EQ(world.schermo.pointers.back(), MousePointer::Default);
     EXPECT_EQ(totals(), QStringList({"1200", "1700"}));
 }

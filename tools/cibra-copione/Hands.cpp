@@ -194,10 +194,17 @@ void sendKey(QWidget *window, int key)
     QTest::keyClick(target, combination.key(), combination.keyboardModifiers());
 }
 
+// Where the mouse meets a control: a grid or list takes it inside its frame.
+QWidget *groundOf(QWidget *widget)
+{
+    auto *const area = qobject_cast<QAbstractScrollArea *>(widget);
+    return area ? area->viewport() : widget;
+}
+
 void clickWidget(QWidget *widget)
 {
     toFront(widget->window());
-    QTest::mouseClick(widget, Qt::LeftButton, {}, middleOf(widget));
+    QTest::mouseClick(groundOf(widget), Qt::LeftButton, {}, middleOf(groundOf(widget)));
 }
 
 void typeText(QWidget *widget, const QString &text)
@@ -220,20 +227,20 @@ void clickOn(const QString &name)
 
 void doubleClickOn(const QString &name)
 {
-    QWidget *const widget = reachable(name).widget;
+    QWidget *const widget = groundOf(reachable(name).widget);
     toFront(widget->window());
     const QPointer<QWidget> alive(widget);
     const QPoint middle = middleOf(widget);
     QTest::mouseClick(widget, Qt::LeftButton, {}, middle);
     if (alive)
         QTest::mouseDClick(widget, Qt::LeftButton, {}, middle);
+    if (alive)
+        QTest::mouseRelease(widget, Qt::LeftButton, {}, middle);
 }
 
 void hoverOver(const QString &name)
 {
-    QWidget *widget = reachable(name).widget;
-    if (auto *area = qobject_cast<QAbstractScrollArea *>(widget))
-        widget = area->viewport();
+    QWidget *const widget = groundOf(reachable(name).widget);
     static QPointer<QWidget> before;
     if (before && before != widget) {
         QEvent leave(QEvent::Leave);

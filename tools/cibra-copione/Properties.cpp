@@ -56,6 +56,8 @@ Answer textOf(const Target &target)
         return edit->toPlainText();
     if (const auto *spin = qobject_cast<QAbstractSpinBox *>(widget))
         return spin->text();
+    if (qobject_cast<QFrame *>(widget))
+        return QString(); // a frame or grid without a caption
     return std::nullopt;
 }
 

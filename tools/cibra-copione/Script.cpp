@@ -51,7 +51,8 @@ std::optional<Command> parseLine(const QString &text, int line)
         if (at == trimmed.size())
             return command;
         command.rests.push_back(trimmed.mid(at));
-        if (trimmed[at] == '[' || trimmed[at] == '{') { // a value of JSON, to the end of the line
+        const bool isJson = command.name.compare("expect", Qt::CaseInsensitive) == 0 && command.arguments.size() == 2;
+        if (isJson && (trimmed[at] == '[' || trimmed[at] == '{')) { // to the end of the line
             command.arguments.push_back({trimmed.mid(at), false});
             return command;
         }

@@ -36,6 +36,8 @@ GeneraMenu::GeneraMenu(FormHost &host, FormRegistry & /*registry*/, ModNetServer
     : Form("GeneraMenu", host), m_ui(std::make_unique<Ui::GeneraMenu>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);
+    for (QAction *line : {m_ui->mnuu, m_ui->mnui, m_ui->mnuy})
+        line->setSeparator(true);
     m_ui->TDBGrid1->setHost(&host);
     setLarghezzaLabel5(kFirstBarWidth);
     dress();

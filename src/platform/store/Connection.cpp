@@ -64,6 +64,22 @@ GruppoScritture::GruppoScritture(Connection &connection) : m_database(connection
 
 GruppoScritture::~GruppoScritture()
 {
-    if (const auto database = m_database.lock())
+    const auto database = m_database.lock();
+    if (database && !m_closed)
         database->group().leave();
+}
+
+void GruppoScritture::commit()
+{
+    if (const auto database = m_database.lock())
+        database->group().commit({});
+}
+
+void GruppoScritture::close()
+{
+    const auto database = m_database.lock();
+    if (!database || m_closed)
+        return;
+    m_closed = true;
+    database->group().close();
 }

@@ -57,8 +57,9 @@ private:
 class Database;
 
 // While one of these lives, writes are committed in groups instead of one by one. It always commits, on failure too,
-// and never rolls back: what was written stays written. Scopes may nest; the outermost one decides. Where the last
-// commit fails, the connection's next statement throws that failure.
+// and never rolls back: what was written stays written. Scopes may nest; the outermost one decides. An operation that
+// went well ends its scope by close(), so that a last commit that fails is its own failure; one that ends by an
+// exception leaves that to the destructor, and the connection's next statement throws it.
 class GruppoScritture
 {
 public:
@@ -67,6 +68,10 @@ public:
     GruppoScritture(const GruppoScritture &) = delete;
     GruppoScritture &operator=(const GruppoScritture &) = delete;
 
+    void commit(); // what was written so far, before somebody is asked; the scope goes on. Throws Failure(Engine)
+    void close();  // ends the scope: commits where it is the outermost. Throws Failure(Engine)
+
 private:
     std::weak_ptr<Database> m_database; // the archive may be closed while the scope lives
+    bool m_closed = false;
 };

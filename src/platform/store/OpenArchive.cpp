@@ -137,11 +137,18 @@ private:
     {
         OpenedArchive opened = attempt(Mode::Usual);
         // The journal kept beside an archive cannot be made in a folder that may not be written.
-        if (!opened.result && (m_lastCode == SQLITE_CANTOPEN || m_lastCode == SQLITE_READONLY) && m_journalWasEmpty)
+        if (!opened.result && journalCannotBeMade() && m_journalWasEmpty)
             opened = attempt(Mode::Unchanging);
         return opened;
     }
 
+    // In a folder that may not be written, or on a full disk.
+    bool journalCannotBeMade() const
+    {
+        const int kind = m_lastCode & 0xff;
+        return kind == SQLITE_CANTOPEN || kind == SQLITE_READONLY || kind == SQLITE_FULL ||
+               m_lastCode == SQLITE_IOERR_SHMSIZE || m_lastCode == SQLITE_IOERR_SHMOPEN;
+    }
     bool isEmpty(const QString &suffix) const { return QFileInfo(m_path + suffix).size() == 0; }
     bool nothingInJournal() const { return isEmpty(QStringLiteral("-wal")) && isEmpty(QStringLiteral("-journal")); }
 
@@ -165,7 +172,10 @@ private:
             giveKey(handle);
             rc = testRead(handle);
         }
-        m_lastCode = rc & 0xff;
+        m_lastCode = rc;
+        // It is sound and in use: each statement says so for itself, until the other program is done.
+        if ((rc & 0xff) == SQLITE_BUSY && m_plain)
+            return {{OpenOutcome::Aperto, 0, {}}, std::move(database)};
         if (rc != SQLITE_OK)
             return failed(handle, rc);
         if (isCutShort(handle))

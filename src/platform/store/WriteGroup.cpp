@@ -55,6 +55,12 @@ void WriteGroup::leave() noexcept
     }
 }
 
+void WriteGroup::close()
+{
+    if (--m_depth == 0)
+        commit({});
+}
+
 void WriteGroup::throwLateFailure()
 {
     if (!m_late)

@@ -17,6 +17,8 @@ public:
     void enter() noexcept { ++m_depth; }
     // The outermost leaving commits. A commit that fails is reported by the connection's next statement.
     void leave() noexcept;
+    // The same, but a commit that fails throws Failure(Engine) at once.
+    void close();
 
     // Runs one write in the group under way, if there is one. Throws what `write` throws, and Failure(Engine).
     template <typename Write>

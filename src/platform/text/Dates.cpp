@@ -58,7 +58,8 @@ QDate CDate(const QString &text)
 {
     const QDate day = dayFromText(text);
     if (!day.isValid())
-        throw Failure::usual(FailureNumber::TypeMismatch);
+        throw Failure::usual(FailureNumber::TypeMismatch,
+                             QStringLiteral("\"%1\" non è una data (gg/mm/aaaa)").arg(text));
     return day;
 }
 

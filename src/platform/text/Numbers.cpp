@@ -64,19 +64,21 @@ std::optional<double> readPlain(const std::string &text)
 // A typed number taken apart: sign, mantissa, exponent.
 struct Parts
 {
+    QStringView typed; // the whole text
     bool negative = false;
     QStringView mantissa;
     QStringView exponent; // with its sign, empty where there is none
 };
 
-[[noreturn]] void mismatch()
+[[noreturn]] void mismatch(QStringView typed)
 {
-    throw Failure::usual(FailureNumber::TypeMismatch);
+    throw Failure::usual(FailureNumber::TypeMismatch, QStringLiteral("\"%1\" non è un numero").arg(typed));
 }
 
 Parts split(QStringView text)
 {
     Parts parts;
+    parts.typed = text;
     text = text.trimmed();
     if (text.startsWith(u'-') || text.startsWith(u'+')) {
         parts.negative = text.startsWith(u'-');
@@ -89,7 +91,7 @@ Parts split(QStringView text)
         const qsizetype sign = parts.exponent.startsWith(u'-') || parts.exponent.startsWith(u'+') ? 1 : 0;
         const QStringView digits = parts.exponent.mid(sign);
         if (digits.isEmpty() || countDigits(digits) != digits.size())
-            mismatch();
+            mismatch(parts.typed);
         if (parts.exponent.startsWith(u'+'))
             parts.exponent = digits;
     }
@@ -100,9 +102,9 @@ Parts split(QStringView text)
 double compose(const Parts &parts, QStringView whole, QStringView fraction)
 {
     if (whole.isEmpty() && fraction.isEmpty())
-        mismatch();
+        mismatch(parts.typed);
     if (countDigits(whole) != whole.size() || countDigits(fraction) != fraction.size())
-        mismatch();
+        mismatch(parts.typed);
     std::string plain = parts.negative ? "-" : "";
     plain += whole.isEmpty() ? std::string("0") : whole.toLatin1().toStdString();
     if (!fraction.isEmpty())
@@ -111,7 +113,7 @@ double compose(const Parts &parts, QStringView whole, QStringView fraction)
         plain.append("E").append(parts.exponent.toLatin1().toStdString());
     const std::optional<double> number = readPlain(plain);
     if (!number)
-        mismatch();
+        mismatch(parts.typed);
     return *number;
 }
 

@@ -16,7 +16,8 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw Failure::usual(file.exists() ? FailureNumber::PathAccess : FailureNumber::FileNotFound, path);
+        throw file.exists() ? Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + path)
+                            : Failure::usual(FailureNumber::FileNotFound, path);
     return file.readAll();
 }
 
@@ -25,6 +26,12 @@ QString decoded(const QByteArray &bytes)
     if (bytes.startsWith(kByteOrderMark))
         return QString::fromUtf8(bytes.mid(kByteOrderMark.size()));
     return fromWindows1252(bytes);
+}
+
+Failure notWhole(const QString &path)
+{
+    return Failure(FailureNumber::PathAccess,
+                   QStringLiteral("Il file non può essere scritto per intero (il disco è pieno?): ") + path);
 }
 
 void checkWritable(const QString &path)
@@ -98,16 +105,20 @@ void TextWriter::replaceFile(const QByteArray &bytes) const
     QSaveFile file(m_path);
     file.setDirectWriteFallback(true); // a file that may be written in a folder that may not
     // The flush is checked for itself: a commit takes a file that could not be flushed for a complete one.
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly))
         throw Failure::usual(FailureNumber::PathAccess, m_path);
+    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+        throw notWhole(m_path);
 }
 
 void TextWriter::writeTo(const QByteArray &bytes, bool append) const
 {
     QFile file(m_path);
     const QIODevice::OpenMode how = append ? QIODevice::Append : QIODevice::WriteOnly | QIODevice::Truncate;
-    if (!file.open(how) || file.write(bytes) != bytes.size() || !file.flush())
+    if (!file.open(how))
         throw Failure::usual(FailureNumber::PathAccess, m_path);
+    if (file.write(bytes) != bytes.size() || !file.flush())
+        throw notWhole(m_path);
 }
 
 TextReader::TextReader(const QString &path) : m_path(path)

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QListView>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -60,12 +61,23 @@ void DataCombo::setText(const QString &text)
 
 void DataCombo::showPopup()
 {
-    {
-        const QSignalBlocker quiet(this);
-        const QString kept = text();
-        showText(kept, findText(kept, Qt::MatchExactly | Qt::MatchCaseSensitive));
-    }
+    standOnText();
     QComboBox::showPopup();
+}
+
+// Up and Down go on from the day that is shown, not from the last one picked.
+void DataCombo::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+        standOnText();
+    QComboBox::keyPressEvent(event);
+}
+
+void DataCombo::standOnText()
+{
+    const QSignalBlocker quiet(this);
+    const QString kept = text();
+    showText(kept, findText(kept, Qt::MatchExactly | Qt::MatchCaseSensitive));
 }
 
 // The wheel scrolls what is around the box: a day turned to by chance would be shown and balanced.

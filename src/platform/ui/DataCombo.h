@@ -24,8 +24,10 @@ signals:
     void textChanged(); // the text changed otherwise: by typing or by setText
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
     void showText(const QString &text, int index);
+    void standOnText();
 };
