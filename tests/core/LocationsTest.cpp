@@ -169,7 +169,7 @@ TEST_F(LocationsTest, AFolderIsNoArchive)
 TEST_F(LocationsTest, AFileCutShortOrFullOfNoiseOpensTheDialog)
 {
     for (const QByteArray &bytes : {QByteArray(), QByteArray("[Gestione"), QByteArray("\r\n\r\n\r\n"),
-                                    QByteArray("\x00\x01\xFF\n\xFE\n\n\x00/\\\n\x81\n", 15)}) {
+                                    QByteArray("\x00\x01\xFF\n\xFE\n\n\x00/\\\n\x81\n", 13)}) {
         world.cartella.write("INI\\GestioneRete.INI", bytes);
         world.schermate.gestioneReteShown = 0;
         world.schermate.inGestioneRete = [this] { world.cartella.remove("INI\\GestioneRete.INI"); };

@@ -174,7 +174,7 @@ TEST_F(GeneraMenuTest, EachBoxTakesItsOwnKindByItsOwnFrequency)
 
 TEST_F(GeneraMenuTest, TheFirstBoxThatIsOnDecidesAMeal)
 {
-    const std::pair<std::initializer_list<int>, QStringList> cases[] = {
+    const std::pair<std::vector<int>, QStringList> cases[] = {
         {{1, 2, 8, 3, 7, 4, 9, 5, 6, 11}, {"Toast", "Pizza"}},
         {{2, 8, 3, 7, 9, 5, 6, 11}, {"Ravioli", "Paella"}},
         {{8, 3, 7, 5, 6, 11}, {"Cuscus", "Ravioli"}}, // single dishes are not rewound
