@@ -105,9 +105,10 @@ void showPath(ModNetServer &modulo, const QString &Percorso)
 void openWithPassword(ModNetServer &modulo, const QString &path, const OpenResult &refused)
 {
     OpenResult result = refused;
-    const QString password = modulo.mondo.dialoghi.InputBox(kPasswordQuestion, kPasswordQuestion, true);
-    if (!password.isEmpty())
-        result = openNew(modulo.ConnessioneDati, path, password);
+    modulo.RigaLetta = modulo.mondo.dialoghi.InputBox(kPasswordQuestion, kPasswordQuestion, true);
+    if (!modulo.RigaLetta.isEmpty())
+        result = openNew(modulo.ConnessioneDati, path, modulo.RigaLetta);
+    modulo.RigaLetta.clear(); // it is asked for at each start and kept nowhere
     if (result)
         return;
     modulo.mondo.dialoghi.MsgBox(QStringLiteral("Database protetto con password\n") + result.words, MsgFlags::Critical,

@@ -34,4 +34,9 @@ mkdir "$folder/Immagini"
 cd "$folder"
 "$copione" --folder "$folder" --screen offscreen --today "$(setting today 03/03/2025)" "$scenario.copione" \
     >"$work/output"
+left=$(setting leaves "")
+[ -z "$left" ] || grep -qaF -- "${left#*: }" "$folder/${left%%: *}" || {
+    echo "$scenario.copione: there is no \"${left#*: }\" in ${left%%: *}" >&2
+    exit 1
+}
 [ ! -e "$scenario.expected" ] || diff -u "$scenario.expected" <(sed "s|$folder|FOLDER|g" "$work/output")

@@ -67,7 +67,9 @@ void SchermateDelProgramma::chiudiMessaggi()
 
 void SchermateDelProgramma::mostraSfondo()
 {
-    m_registry.get<Sfondo>().mostra();
+    Sfondo &background = m_registry.get<Sfondo>();
+    background.setEnabled(false); // it takes no clicks
+    background.mostra();
 }
 
 void SchermateDelProgramma::nascondiSfondo()

@@ -29,7 +29,6 @@ Sfondo::~Sfondo() = default;
 
 void Sfondo::mostra()
 {
-    setEnabled(false);
     setWindowState(windowState() | Qt::WindowMaximized);
     showModeless();
 }
