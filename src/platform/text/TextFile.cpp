@@ -16,8 +16,9 @@ QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
-        throw file.exists() ? Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + path)
-                            : Failure::usual(FailureNumber::FileNotFound, path);
+        throw file.exists()
+            ? Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + path)
+            : Failure::usual(FailureNumber::FileNotFound, path);
     return file.readAll();
 }
 
