@@ -1,0 +1,38 @@
+// A label that is worked like a button: with the mouse, and with Enter or Space once the focus stands on it.
+#pragma once
+
+#include <QLabel>
+
+class EtichettaComando : public QLabel
+{
+    Q_OBJECT
+    // Whether the double click is what starts the command; Enter and Space then give that signal too.
+    Q_PROPERTY(bool aDoppioClic MEMBER m_aDoppioClic)
+
+public:
+    explicit EtichettaComando(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override; // narrower than a long text, which is then shown elided
+
+signals:
+    void clicked();       // once for a double click, as for its first half
+    void doubleClicked(); // after the click that begins it
+
+protected:
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void setPressed(bool pressed);
+
+    bool m_aDoppioClic = false;
+    bool m_pressed = false;
+};
