@@ -7,9 +7,7 @@
 # USES names the subsystems whose logic (and, for forms, whose forms too) this one builds on.
 
 function(add_subsystem name)
-  if(EXISTS "${CMAKE_SOURCE_DIR}/src/${name}/CMakeLists.txt")
-    add_subdirectory("${CMAKE_SOURCE_DIR}/src/${name}")
-  endif()
+  add_subdirectory("${CMAKE_SOURCE_DIR}/src/${name}")
 endfunction()
 
 function(subsystem_logic name)
