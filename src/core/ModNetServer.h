@@ -52,6 +52,9 @@ struct ModNetServer
     bool ModoSistema = false;    // never set
     bool ErroreAVideo = false;   // the dialog "Errore Generico" is up
 
+    bool PuoAggiungere() const { return LivelloUtente >= 3; } // a record form offers new records
+    bool PuoCancellare() const { return LivelloUtente >= 4; } // a record form offers to delete records
+
     // The open data connection; throws Failure(ConnectionClosed) where it was never opened.
     Connection &dati();
 };

@@ -25,6 +25,8 @@ public:
     virtual void percorsoNellaBarra(const QString &path) = 0; // panel 1 of sb on Menu
     // The error image of Sfondo and the two panels of its status bar, from panel 4 on.
     virtual void erroreSuSfondo(const QString &panel, const QString &nextPanel) = 0;
+    virtual void nascondiErroreSfondo() = 0; // the error image again
+    virtual void suggerimentoErroreSfondo(const QString &toolTip) = 0;
     virtual QString pannelloSfondo(int panel) = 0; // status bar of Sfondo
     virtual void setPannelloSfondo(int panel, const QString &text) = 0;
     virtual BarraDelPianificatore &barra() = 0; // GeneraMenu

@@ -45,6 +45,8 @@ public:
     void mostraGestioneRete() override {}
     void percorsoNellaBarra(const QString &) override {}
     void erroreSuSfondo(const QString &, const QString &) override {}
+    void nascondiErroreSfondo() override {}
+    void suggerimentoErroreSfondo(const QString &) override {}
     QString pannelloSfondo(int) override { return {}; }
     void setPannelloSfondo(int, const QString &) override {}
     BarraDelPianificatore &barra() override { return *this; }

@@ -29,6 +29,7 @@ void TestSchermate::mostraGestioneRete()
 
 void TestSchermate::erroreSuSfondo(const QString &panel, const QString &nextPanel)
 {
+    erroreVisibile = true;
     pannelli[4] = panel;
     pannelli[5] = nextPanel;
     errors.append(panel + QStringLiteral(" | ") + nextPanel);

@@ -29,12 +29,16 @@ public:
     QStringList paths;                    // each path given to the main window's status bar
     QStringList errors;                   // each error put on the background: "panel 4 | next panel"
     QMap<int, QString> pannelli;          // the background's status bar
+    bool erroreVisibile = false;          // its error image
+    QString suggerimentoErrore;           // the image's tool tip
     TestBarra bar;
     int barTouches = 0; // how often the planner was reached for its bar
 
     void mostraGestioneRete() override;
     void percorsoNellaBarra(const QString &path) override { paths.append(path); }
     void erroreSuSfondo(const QString &panel, const QString &nextPanel) override;
+    void nascondiErroreSfondo() override { erroreVisibile = false; }
+    void suggerimentoErroreSfondo(const QString &toolTip) override { suggerimentoErrore = toolTip; }
     QString pannelloSfondo(int panel) override { return pannelli.value(panel); }
     void setPannelloSfondo(int panel, const QString &text) override { pannelli[panel] = text; }
     BarraDelPianificatore &barra() override;

@@ -85,7 +85,7 @@ int Recordset::AbsolutePosition() const
 void Recordset::MoveFirst()
 {
     m_private->needOpen();
-    m_private->writePending();
+    writeWhatWaits();
     if (m_private->rows.empty())
         throw Failure::usual(FailureNumber::NoCurrentRow);
     m_private->rows.moveTo(0);
@@ -95,7 +95,7 @@ void Recordset::MoveFirst()
 void Recordset::MoveLast()
 {
     m_private->needOpen();
-    m_private->writePending();
+    writeWhatWaits();
     if (m_private->rows.empty())
         throw Failure::usual(FailureNumber::NoCurrentRow);
     m_private->rows.moveTo(m_private->rows.count() - 1);
@@ -115,7 +115,7 @@ void Recordset::MovePrevious()
 void Recordset::Move(int rows)
 {
     m_private->needOpen();
-    m_private->writePending();
+    writeWhatWaits();
     // From the gap of a deleted row both ways lead on, even where no row is left.
     const bool stuck = !m_private->rows.inGap() && ((rows > 0 && Eof()) || (rows < 0 && Bof()));
     if (stuck)
@@ -128,7 +128,7 @@ void Recordset::Find(const QString &criterion)
 {
     m_private->needOpen();
     const Criterion condition(criterion);
-    m_private->writePending();
+    writeWhatWaits();
     m_private->find(condition);
     emit moveComplete();
 }
@@ -136,7 +136,7 @@ void Recordset::Find(const QString &criterion)
 void Recordset::setFilter(const QString &criterion)
 {
     m_private->needOpen();
-    m_private->writePending();
+    writeWhatWaits();
     const QString former = std::exchange(m_private->filter, criterion);
     try {
         m_private->applyFilter();
@@ -156,7 +156,7 @@ const QString &Recordset::filter() const
 void Recordset::AddNew()
 {
     m_private->needUpdatable();
-    m_private->writePending();
+    writeWhatWaits();
     const bool replaces = m_private->access == Access::AppendOnly && RecordCount() > 0;
     m_private->startNewRow();
     if (replaces)
@@ -168,6 +168,7 @@ void Recordset::AddNew()
 void Recordset::Update()
 {
     m_private->needOpen();
+    letEditorsWrite();
     if (!m_private->pending)
         return;
     m_private->writePending();
@@ -182,6 +183,8 @@ void Recordset::UpdateBatch()
 void Recordset::CancelUpdate()
 {
     m_private->needOpen();
+    for (RowEditor *editor : m_editors)
+        editor->dropTyped();
     const int row = m_private->rows.position();
     switch (m_private->pending.kind()) {
     case PendingRow::Kind::None:
@@ -289,7 +292,7 @@ Value Recordset::valueAt(int row, int column) const
 QString Recordset::GetString()
 {
     m_private->needOpen();
-    m_private->writePending();
+    writeWhatWaits();
     QString text;
     const int last = RecordCount();
     for (int row = std::max(m_private->rows.position(), 0); row < last; ++row) {
@@ -305,4 +308,26 @@ QString Recordset::GetString()
 bool Recordset::isUpdatable() const
 {
     return m_private->open && m_private->shape->updatable() && m_private->access != Access::ReadOnly;
+}
+
+void Recordset::addEditor(RowEditor &editor)
+{
+    m_editors.push_back(&editor);
+}
+
+void Recordset::removeEditor(RowEditor &editor)
+{
+    std::erase(m_editors, &editor);
+}
+
+void Recordset::letEditorsWrite()
+{
+    for (RowEditor *editor : m_editors)
+        editor->writeTyped();
+}
+
+void Recordset::writeWhatWaits()
+{
+    letEditorsWrite();
+    m_private->writePending();
 }

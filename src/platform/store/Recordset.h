@@ -21,12 +21,22 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 struct FieldInfo
 {
     QString name; // spelled as the table declares it
     ColumnType type = ColumnType::Text;
     int definedSize = 0; // characters of a text column, 0 where none is declared
+};
+
+// Something that shows the current row and keeps what the user types until the row is written: a bound box.
+class RowEditor
+{
+public:
+    virtual ~RowEditor() = default;
+    virtual void writeTyped() = 0; // what was typed goes into the row, by setValue; may throw
+    virtual void dropTyped() = 0;  // what was typed is forgotten
 };
 
 class Recordset : public QObject
@@ -70,7 +80,7 @@ public:
     void setFilter(const QString &criterion);
     const QString &filter() const;
 
-    void AddNew();       // a new, empty, pending row becomes current
+    void AddNew(); // a new, empty, pending row becomes current
     // What waits for Update is written first by every move, Find, setFilter and AddNew; Requery and Close drop it. What
     // cannot be written stays waiting. Update throws RowChanged where another program has meanwhile changed one of the
     // fields or deleted the row: its change is kept.
@@ -101,6 +111,11 @@ public:
 
     bool isUpdatable() const;
 
+    // Every Update, move, Find, setFilter and AddNew first lets its editors write what was typed; what one of them
+    // throws ends the operation, and nothing has moved. CancelUpdate lets them forget it.
+    void addEditor(RowEditor &editor);
+    void removeEditor(RowEditor &editor);
+
 signals:
     void opened();       // Open, Requery, Close, setFilter: every row may be another
     void moveComplete(); // after every move, also after those that Open, Requery, AddNew and Delete make
@@ -109,6 +124,10 @@ signals:
     void rowRemoved(int row);
 
 private:
+    void letEditorsWrite();
+    void writeWhatWaits(); // what was typed, then what is pending
+
     struct Private;
     std::unique_ptr<Private> m_private;
+    std::vector<RowEditor *> m_editors; // they outlive a Close
 };

@@ -23,6 +23,16 @@ void SchermateDelProgramma::erroreSuSfondo(const QString &panel, const QString &
     m_registry.get<Sfondo>().mostraErrore(panel, nextPanel);
 }
 
+void SchermateDelProgramma::nascondiErroreSfondo()
+{
+    m_registry.get<Sfondo>().nascondiErrore();
+}
+
+void SchermateDelProgramma::suggerimentoErroreSfondo(const QString &toolTip)
+{
+    m_registry.get<Sfondo>().suggerimentoErrore(toolTip);
+}
+
 QString SchermateDelProgramma::pannelloSfondo(int panel)
 {
     return m_registry.get<Sfondo>().pannello(panel);

@@ -13,6 +13,8 @@ public:
     void mostraGestioneRete() override;
     void percorsoNellaBarra(const QString &path) override;
     void erroreSuSfondo(const QString &panel, const QString &nextPanel) override;
+    void nascondiErroreSfondo() override;
+    void suggerimentoErroreSfondo(const QString &toolTip) override;
     QString pannelloSfondo(int panel) override;
     void setPannelloSfondo(int panel, const QString &text) override;
     BarraDelPianificatore &barra() override { return m_barra; }

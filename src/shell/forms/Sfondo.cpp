@@ -45,6 +45,16 @@ void Sfondo::mostraErrore(const QString &panel4, const QString &panel5)
     setPannello(5, panel5);
 }
 
+void Sfondo::nascondiErrore()
+{
+    m_ui->ImgErrore->hide();
+}
+
+void Sfondo::suggerimentoErrore(const QString &toolTip)
+{
+    m_ui->ImgErrore->setToolTip(toolTip);
+}
+
 QString Sfondo::pannello(int panel) const
 {
     return m_ui->StatusBar1->panelText(panel);

@@ -23,6 +23,8 @@ public:
 
     // The error image and the panels of the status bar, from 1.
     void mostraErrore(const QString &panel4, const QString &panel5);
+    void nascondiErrore();
+    void suggerimentoErrore(const QString &toolTip);
     QString pannello(int panel) const;
     void setPannello(int panel, const QString &text);
 
