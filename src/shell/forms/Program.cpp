@@ -1,12 +1,16 @@
 #include "shell/forms/Program.h"
 
+#include "catalogue/forms/InserimentoKCal.h"
+#include "catalogue/forms/MyBrowse.h"
+#include "catalogue/forms/PiattiKCAL.h"
+#include "catalogue/forms/Sostituti.h"
 #include "core/ErrorLog.h"
 #include "planner/forms/GeneraMenu.h"
 #include "platform/ui/DialoghiQt.h"
+#include "platform/ui/Disegno.h"
 #include "platform/ui/FormHost.h"
 #include "platform/ui/FormRegistry.h"
 #include "sheet/forms/FrmCibra.h"
-#include "shell/forms/Disegno.h"
 #include "shell/forms/GestioneRete.h"
 #include "shell/forms/Menu.h"
 #include "shell/forms/Messaggi.h"
@@ -49,6 +53,10 @@ void Program::Private::setFactories()
     registry.setFactory<Sfondo>([this] { return std::make_unique<Sfondo>(host, modulo); });
     registry.setFactory<GestioneRete>([this] { return std::make_unique<GestioneRete>(host, modulo); });
     registry.setFactory<Menu>([this] { return std::make_unique<Menu>(host, registry, modulo); });
+    registry.setFactory<InserimentoKCal>([this] { return std::make_unique<InserimentoKCal>(host, registry, modulo); });
+    registry.setFactory<MyBrowse>([this] { return std::make_unique<MyBrowse>(host, registry, modulo); });
+    registry.setFactory<PiattiKCAL>([this] { return std::make_unique<PiattiKCAL>(host, registry, modulo); });
+    registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, registry, modulo); });
     registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, modulo); });
     registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, modulo); });
 }

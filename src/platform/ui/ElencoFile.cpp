@@ -1,6 +1,6 @@
-#include "shell/forms/ElencoFile.h"
+#include "platform/ui/ElencoFile.h"
 
-#include "shell/forms/Disegno.h"
+#include "platform/ui/Disegno.h"
 
 #include <QDir>
 
@@ -27,7 +27,7 @@ void ElencoFile::mostra(const QString &folder)
     clear();
     const QStringList patterns = m_pattern.isEmpty() ? QStringList() : QStringList(m_pattern);
     const QDir directory(folder);
-    const QIcon icon = Disegno::icon(":/shell/file.svg");
+    const QIcon icon = Disegno::icon(":/platform/icons/file.svg");
     for (const QString &file : directory.entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase))
         if (!isCompanion(directory, file))
             addItem(new QListWidgetItem(icon, file));

@@ -1,4 +1,4 @@
-#include "shell/forms/ElencoDischi.h"
+#include "platform/ui/ElencoDischi.h"
 
 #include <QDir>
 #include <QSignalBlocker>

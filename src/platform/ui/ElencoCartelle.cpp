@@ -1,6 +1,6 @@
-#include "shell/forms/ElencoCartelle.h"
+#include "platform/ui/ElencoCartelle.h"
 
-#include "shell/forms/Disegno.h"
+#include "platform/ui/Disegno.h"
 
 #include <QDir>
 #include <QKeyEvent>
@@ -26,9 +26,9 @@ void ElencoCartelle::fill()
 {
     clear();
     const QDir folder(m_cartella);
-    const QIcon icon = Disegno::icon(":/shell/cartella.svg");
+    const QIcon icon = Disegno::icon(":/platform/icons/cartella.svg");
     if (!folder.isRoot())
-        addItem(new QListWidgetItem(Disegno::icon(":/shell/su.svg"), ".."));
+        addItem(new QListWidgetItem(Disegno::icon(":/platform/icons/su.svg"), ".."));
     const QStringList names = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     for (const QString &name : names)
         addItem(new QListWidgetItem(icon, name));

@@ -1,8 +1,14 @@
-#include "shell/forms/Disegno.h"
+#include "platform/ui/Disegno.h"
 
 #include <QIcon>
 #include <QPainter>
 #include <QSvgRenderer>
+
+// The drawings are part of a static library, which nobody initialises by itself. Outside any namespace, as Qt asks.
+static void initResources()
+{
+    Q_INIT_RESOURCE(platform);
+}
 
 Disegno::Disegno(QWidget *parent) : QWidget(parent), m_renderer(new QSvgRenderer(this)) {}
 
@@ -21,6 +27,7 @@ QSize Disegno::sizeHint() const
 
 QIcon Disegno::icon(const QString &file)
 {
+    initResources();
     QSvgRenderer renderer(file);
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) {

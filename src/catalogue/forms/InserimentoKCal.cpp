@@ -1,0 +1,56 @@
+#include "catalogue/forms/InserimentoKCal.h"
+
+#include "catalogue/forms/Icone.h"
+#include "ui_InserimentoKCal.h"
+
+namespace {
+
+constexpr int kEscape = 27;
+
+} // namespace
+
+InserimentoKCal::InserimentoKCal(FormHost &host, FormRegistry &, ModNetServer &modulo)
+    : Form("InserimentoKCal", host), m_ui(std::make_unique<Ui::InserimentoKCal>()), m_modulo(modulo)
+{
+    m_ui->setupUi(this);
+    setWindowIcon(Icone::icona("bilancia"));
+    on(m_ui->Command1, &QPushButton::clicked, this, &InserimentoKCal::Command1_Click);
+    on(m_ui->Command2, &QPushButton::clicked, this, &InserimentoKCal::Command2_Click);
+}
+
+InserimentoKCal::~InserimentoKCal() = default;
+
+void InserimentoKCal::setDomanda(const QString &domanda)
+{
+    m_ui->Label1->setText(domanda);
+}
+
+void InserimentoKCal::Form_Load()
+{
+    m_modulo.mondo.schermo.beep();
+    m_ui->Command1->setText(m_modulo.NomePrimaPersona);
+    m_ui->Command2->setText(m_modulo.NomeSecondaPersona);
+    m_modulo.NomeScelto.clear();
+}
+
+void InserimentoKCal::Command1_Click()
+{
+    scegli(m_ui->Command1);
+}
+
+void InserimentoKCal::Command2_Click()
+{
+    scegli(m_ui->Command2);
+}
+
+void InserimentoKCal::scegli(const QPushButton *person)
+{
+    m_modulo.NomeScelto = person->text();
+    unload();
+}
+
+void InserimentoKCal::Form_KeyPress(int character)
+{
+    if (character == kEscape)
+        unload();
+}

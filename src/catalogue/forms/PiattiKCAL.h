@@ -1,0 +1,29 @@
+// The list of all dishes with their calories for both persons, to be read only.
+#pragma once
+
+#include "core/ModNetServer.h"
+#include "platform/ui/Form.h"
+
+#include <memory>
+
+class FormRegistry;
+namespace Ui {
+class PiattiKCAL;
+}
+
+class PiattiKCAL : public Form
+{
+    Q_OBJECT
+
+public:
+    PiattiKCAL(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    ~PiattiKCAL() override;
+
+protected:
+    void Form_Load() override;
+    void Form_KeyPress(int character) override;
+
+private:
+    std::unique_ptr<Ui::PiattiKCAL> m_ui;
+    ModNetServer &m_modulo;
+};
