@@ -1,6 +1,7 @@
 #include "planner/forms/GeneraMenu.h"
 
 #include "core/Household.h"
+#include "pages/PaginaHtml.h"
 #include "planner/CheckLog.h"
 #include "planner/GeneraMenuProvvisori.h"
 #include "planner/SettaPreferiti.h"
@@ -74,6 +75,7 @@ void GeneraMenu::connectHandlers()
     on(m_ui->mnuCrea, &QAction::triggered, this, &GeneraMenu::mnuCrea_Click);
     on(m_ui->mnuVisualizza, &QAction::triggered, this, &GeneraMenu::mnuVisualizza_Click);
     on(m_ui->mnuGenera, &QAction::triggered, this, &GeneraMenu::mnuGenera_Click);
+    on(m_ui->MnukcCalcolo, &QAction::triggered, this, &GeneraMenu::MnukcCalcolo_Click);
     on(m_ui->mnuEsci, &QAction::triggered, this, &GeneraMenu::mnuEsci_Click);
     on(m_ui->Command1, &QPushButton::clicked, this, &GeneraMenu::Command1_Click);
     on(m_ui->Command2, &QPushButton::clicked, this, &GeneraMenu::Command2_Click);
@@ -186,6 +188,11 @@ void GeneraMenu::showGrid(std::shared_ptr<Recordset> recordset)
 void GeneraMenu::mnuGenera_Click()
 {
     mnuGenera(m_modulo, {m_ui->Text3->text(), m_ui->Text4->text(), m_ui->Check12->isChecked()}, *this);
+}
+
+void GeneraMenu::MnukcCalcolo_Click()
+{
+    MnukcCalcolo(m_modulo);
 }
 
 void GeneraMenu::Command1_Click()

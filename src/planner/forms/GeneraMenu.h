@@ -44,6 +44,7 @@ private:
     void mnuCrea_Click();
     void mnuVisualizza_Click();
     void mnuGenera_Click();
+    void MnukcCalcolo_Click();
     void mnuEsci_Click() { unload(); }
     void Command1_Click();
     void Command2_Click();

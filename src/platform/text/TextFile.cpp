@@ -70,6 +70,11 @@ void TextWriter::line(const QString &text)
     m_text += text + QStringLiteral("\r\n");
 }
 
+void TextWriter::text(const QString &lines)
+{
+    m_text += lines;
+}
+
 void TextWriter::close()
 {
     if (!m_open)

@@ -30,8 +30,9 @@ public:
     TextWriter(const TextWriter &) = delete;
     TextWriter &operator=(const TextWriter &) = delete;
 
-    void line(const QString &text); // and CR LF
-    void close();                   // throws Failure(PathAccess) where the disk is full; a second close does nothing
+    void line(const QString &text);  // and CR LF
+    void text(const QString &lines); // as it stands, line ends and all
+    void close();                    // throws Failure(PathAccess) where the disk is full; a second close does nothing
 
 private:
     QByteArray encoded() const;

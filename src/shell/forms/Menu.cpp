@@ -1,6 +1,7 @@
 #include "shell/forms/Menu.h"
 
 #include "core/Household.h"
+#include "pages/PaginaHtml.h"
 #include "planner/forms/GeneraMenu.h"
 #include "platform/ui/FormRegistry.h"
 #include "sheet/forms/FrmCibra.h"
@@ -52,6 +53,7 @@ void Menu::connectHandlers()
     on(m_ui->mnucalcolaCibra, &QAction::triggered, this, &Menu::mnucalcolaCibra_Click);
     on(m_ui->MnugeneraMenu, &QAction::triggered, this, &Menu::MnugeneraMenu_Click);
     on(m_ui->mnuDatabase, &QAction::triggered, this, &Menu::mnuDatabase_Click);
+    on(m_ui->mnuHTML, &QAction::triggered, this, &Menu::mnuHTML_Click);
     on(m_ui->mnuVisualizza, &QAction::triggered, this, &Menu::mnuVisualizza_Click);
     on(m_ui->mnuesciRete, &QAction::triggered, this, &Menu::mnuesciRete_Click);
 }
@@ -129,6 +131,11 @@ void Menu::MnugeneraMenu_Click()
 void Menu::mnuDatabase_Click()
 {
     m_modulo.schermate.mostraGestioneRete();
+}
+
+void Menu::mnuHTML_Click()
+{
+    mnuHTML(m_modulo);
 }
 
 void Menu::mnuVisualizza_Click()

@@ -31,6 +31,7 @@ private:
     void mnucalcolaCibra_Click();
     void MnugeneraMenu_Click();
     void mnuDatabase_Click();
+    void mnuHTML_Click();
     void mnuVisualizza_Click();
     void mnuesciRete_Click();
 

@@ -1,0 +1,12 @@
+        estrai(form.##.value);
+        Ag = form.##g.value;
+        ##h = acqua * Ag / 100;
+        form.##h.value = ##h;
+        ##p = proteine * Ag / 100;
+        form.##p.value = ##p;
+        ##f = grassi * Ag / 100;
+        form.##f.value = ##f;
+        ##c = zuccheri * Ag / 100;
+        form.##c.value = ##c;
+        ##k = calorie * Ag / 100;
+        form.##k.value = ##k;
