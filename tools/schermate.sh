@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/schermate anew: every screen at its smallest and large, empty and full. Look at them after
 # a change to a screen. A line "schermata NAME [FORM]" of the scripts in tools/schermate takes NAME-piccola.png and
-# NAME-grande.png of the form, or NAME.png of the message box in front.
+# NAME-grande.png of the form, or NAME.png of the message box in front. The pages for the browser are taken in Chromium.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/prepara.sh
@@ -40,4 +40,5 @@ sed -i "s|$work/piena|$work/vuota|" "$work/vuota/INI/GestioneRete.INI"
 
 scatta vuota "$work/vuota"
 scatta piena "$work/piena"
+tools/schermate/pagine.sh "$bin" "$work/piena" "$pictures"
 ls "$pictures"
