@@ -127,6 +127,14 @@ TEST_F(DataGridTest, FollowsNewChangedAndDeletedRows)
     EXPECT_EQ(cell(grid, 0, 1), "10");
 }
 
+TEST_F(DataGridTest, RowsDeletedOneAfterTheOtherAreAllDeletedUnderTheGrid)
+{
+    for (rows->MoveFirst(); !rows->Eof(); rows->MoveNext())
+        rows->Delete();
+    EXPECT_EQ(grid.model()->rowCount(), 0);
+    EXPECT_EQ(countOf(connection, "Piatti"), 0);
+}
+
 TEST_F(DataGridTest, FollowsRequeryAndClose)
 {
     insertRows(connection, "Piatti", "Piatto", {"'Zuppa'"});

@@ -42,7 +42,11 @@ struct DataGrid::Private
 DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_unique<Private>())
 {
     m_private->model = new RecordsetModel(this);
+    // The view leaves a row that is being deleted by itself; that moves no record set. The model tells us before the
+    // view's own selection, since we are connected first.
+    connect(m_private->model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_private->following = true; });
     setModel(m_private->model);
+    connect(m_private->model, &QAbstractItemModel::rowsRemoved, this, [this] { m_private->following = false; });
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -1,5 +1,7 @@
 #include "shell/forms/Menu.h"
 
+#include "catalogue/forms/CreaGruppo.h"
+#include "catalogue/forms/FrmMenu.h"
 #include "core/Household.h"
 #include "pages/PaginaHtml.h"
 #include "planner/forms/GeneraMenu.h"
@@ -51,6 +53,8 @@ void Menu::dress()
 void Menu::connectHandlers()
 {
     on(m_ui->mnucalcolaCibra, &QAction::triggered, this, &Menu::mnucalcolaCibra_Click);
+    on(m_ui->mnumenuPiatti, &QAction::triggered, this, &Menu::mnumenuPiatti_Click);
+    on(m_ui->mnuAlternativi, &QAction::triggered, this, &Menu::mnuAlternativi_Click);
     on(m_ui->MnugeneraMenu, &QAction::triggered, this, &Menu::MnugeneraMenu_Click);
     on(m_ui->mnuDatabase, &QAction::triggered, this, &Menu::mnuDatabase_Click);
     on(m_ui->mnuHTML, &QAction::triggered, this, &Menu::mnuHTML_Click);
@@ -120,6 +124,17 @@ void Menu::Form_Unload()
 void Menu::mnucalcolaCibra_Click()
 {
     m_registry.get<FrmCibra>().showModal();
+}
+
+void Menu::mnumenuPiatti_Click()
+{
+    m_registry.get<FrmMenu>().showModal();
+    aggiornaEtichette();
+}
+
+void Menu::mnuAlternativi_Click()
+{
+    m_registry.get<CreaGruppo>().showModal();
 }
 
 void Menu::MnugeneraMenu_Click()

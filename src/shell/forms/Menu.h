@@ -29,6 +29,8 @@ protected:
 
 private:
     void mnucalcolaCibra_Click();
+    void mnumenuPiatti_Click();
+    void mnuAlternativi_Click();
     void MnugeneraMenu_Click();
     void mnuDatabase_Click();
     void mnuHTML_Click();

@@ -1,5 +1,7 @@
 #include "shell/forms/Program.h"
 
+#include "catalogue/forms/CreaGruppo.h"
+#include "catalogue/forms/FrmMenu.h"
 #include "catalogue/forms/InserimentoKCal.h"
 #include "catalogue/forms/MyBrowse.h"
 #include "catalogue/forms/PiattiKCAL.h"
@@ -53,6 +55,8 @@ void Program::Private::setFactories()
     registry.setFactory<Sfondo>([this] { return std::make_unique<Sfondo>(host, modulo); });
     registry.setFactory<GestioneRete>([this] { return std::make_unique<GestioneRete>(host, modulo); });
     registry.setFactory<Menu>([this] { return std::make_unique<Menu>(host, registry, modulo); });
+    registry.setFactory<CreaGruppo>([this] { return std::make_unique<CreaGruppo>(host, registry, modulo); });
+    registry.setFactory<FrmMenu>([this] { return std::make_unique<FrmMenu>(host, registry, modulo); });
     registry.setFactory<InserimentoKCal>([this] { return std::make_unique<InserimentoKCal>(host, registry, modulo); });
     registry.setFactory<MyBrowse>([this] { return std::make_unique<MyBrowse>(host, registry, modulo); });
     registry.setFactory<PiattiKCAL>([this] { return std::make_unique<PiattiKCAL>(host, registry, modulo); });
