@@ -1,9 +1,11 @@
 #include "platform/ui/DataGrid.h"
 
+#include "platform/ui/CellDelegate.h"
 #include "platform/ui/Form.h"
+#include "platform/ui/GridHeader.h"
 
-#include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <map>
@@ -32,6 +34,7 @@ int foldedWidth(const QString &caption, const QFontMetrics &metrics)
 struct DataGrid::Private
 {
     RecordsetModel *model = nullptr;
+    GridHeader *header = nullptr;
     FormHost *host = nullptr;
     bool following = false;      // the current row is set because the record set moved
     bool fitting = false;        // column widths are being set by the grid itself
@@ -42,14 +45,19 @@ struct DataGrid::Private
 DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_unique<Private>())
 {
     m_private->model = new RecordsetModel(this);
+    m_private->model->setWriter([this](int row, int field, const Value &value) { return write(row, field, value); });
+    m_private->header = new GridHeader(this);
+    setHorizontalHeader(m_private->header);
     // The view leaves a row that is being deleted by itself; that moves no record set. The model tells us before the
     // view's own selection, since we are connected first.
     connect(m_private->model, &QAbstractItemModel::rowsAboutToBeRemoved, this, [this] { m_private->following = true; });
     setModel(m_private->model);
     connect(m_private->model, &QAbstractItemModel::rowsRemoved, this, [this] { m_private->following = false; });
+    setItemDelegate(new CellDelegate(*m_private->model, this));
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // For the cells that can be edited: the others have no such flag.
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
     setWordWrap(false);
@@ -58,13 +66,14 @@ DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_un
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
-    horizontalHeader()->setMinimumHeight(2 * fontMetrics().height() + kCellPadding); // captions may take two lines
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
         if (!m_private->fitting)
             m_private->sizedByUser = true;
     });
+    // Scrolling shifts what the header shows; its title stays.
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, m_private->header->viewport(),
+            qOverload<>(&QWidget::update));
     connect(m_private->model, &QAbstractItemModel::modelReset, this, [this] {
         fitColumns();
         followRecordset();
@@ -87,6 +96,18 @@ void DataGrid::setCaption(int column, const QString &caption)
     m_private->model->setCaption(column, caption);
     m_private->fitted.clear();
     fitColumns();
+}
+
+void DataGrid::setCaption(const QString &caption)
+{
+    m_private->header->setTitle(caption);
+    setAccessibleDescription(caption);
+    updateGeometries();
+}
+
+QString DataGrid::caption() const
+{
+    return m_private->header->title();
 }
 
 void DataGrid::setDataSource(std::shared_ptr<Recordset> recordset)
@@ -119,6 +140,16 @@ void DataGrid::setRowColour(std::function<QColor(const Recordset &, int row)> co
 void DataGrid::setHost(FormHost *host)
 {
     m_private->host = host;
+}
+
+bool DataGrid::cancelEdit()
+{
+    if (state() != QAbstractItemView::EditingState)
+        return false;
+    QWidget *const editor = indexWidget(currentIndex());
+    if (editor)
+        closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    return editor != nullptr;
 }
 
 QString DataGrid::columnField(int column) const
@@ -175,6 +206,36 @@ void DataGrid::moveRecordset(int row)
         recordset->MoveFirst();
     if (const int distance = row + 1 - recordset->AbsolutePosition())
         recordset->Move(distance);
+}
+
+bool DataGrid::write(int row, int field, const Value &value)
+{
+    const std::shared_ptr<Recordset> recordset = dataSource();
+    try {
+        moveRecordset(row);
+    } catch (const Failure &failure) { // something else waits to be written, and goes on waiting
+        tell(failure);
+        return false;
+    }
+    try {
+        recordset->setValue(field, value);
+        recordset->Update();
+        return true;
+    } catch (const Failure &failure) {
+        recordset->CancelUpdate();
+        tell(failure);
+        return false;
+    }
+}
+
+// A box of its own takes the focus, so it comes up once the cell's editor is gone.
+void DataGrid::tell(const Failure &failure)
+{
+    FormHost *const guard = host();
+    if (!guard)
+        throw failure;
+    QMetaObject::invokeMethod(
+        this, [guard, failure] { guard->guarded([&failure] { throw failure; }); }, Qt::QueuedConnection);
 }
 
 // The theme's captions are bolder than the header's own font.
@@ -246,7 +307,7 @@ std::vector<int> DataGrid::textColumns() const
 {
     std::vector<int> texts;
     for (int column = 0; column < model()->columnCount(); ++column) {
-        if (!isColumnHidden(column) && !m_private->model->isNumber(column))
+        if (!isColumnHidden(column) && !m_private->model->isNumber(column) && !m_private->model->isYesNo(column))
             texts.push_back(column);
     }
     return texts;

@@ -1,4 +1,8 @@
-// A grid bound to a record set: its current row is the record set's, and both follow each other. It is read-only.
+// A grid bound to a record set: its current row is the record set's, and both follow each other.
+//
+// It is read-only but for the columns that say otherwise. An edited cell is written at once, by setValue and Update of
+// the record set; where that fails the failure is told and the cell shows the stored value again. A yes/no field is a
+// box that a click anywhere in its cell, or the space bar, ticks.
 #pragma once
 
 #include "platform/store/Recordset.h"
@@ -14,6 +18,7 @@ class FormHost;
 class DataGrid : public QTableView
 {
     Q_OBJECT
+    Q_PROPERTY(QString caption READ caption WRITE setCaption)
 
 public:
     explicit DataGrid(QWidget *parent = nullptr);
@@ -22,6 +27,9 @@ public:
     // No columns: all fields of the record set, each under its own name.
     void setColumns(std::vector<GridColumn> columns);
     void setCaption(int column, const QString &caption);
+    // A title over the captions of the columns; without a text there is no room for one.
+    void setCaption(const QString &caption);
+    QString caption() const;
     // The grid keeps the record set for as long as it shows it; null empties the grid.
     void setDataSource(std::shared_ptr<Recordset> recordset);
     std::shared_ptr<Recordset> dataSource() const;
@@ -30,6 +38,8 @@ public:
     void setRowColour(std::function<QColor(const Recordset &, int row)> colour);
     // Moves of the record set made by the user run inside this host's guard; without it, in that of the form around.
     void setHost(FormHost *host);
+    // Gives up the edit under way, the cell keeping its value; false where there is none.
+    bool cancelEdit();
     // The data field of a column, for whoever reads the grid by program.
     QString columnField(int column) const;
 
@@ -40,6 +50,8 @@ protected:
 private:
     void followRecordset();
     void moveRecordset(int row);
+    bool write(int row, int field, const Value &value);
+    void tell(const Failure &failure);
     void fitColumns();
     int captionWidth(int column) const;
     void fillWidth();

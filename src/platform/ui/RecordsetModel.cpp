@@ -77,13 +77,28 @@ void RecordsetModel::reset()
     endResetModel();
 }
 
-bool RecordsetModel::isNumber(int column) const
+const FieldInfo *RecordsetModel::fieldOf(int column) const
 {
     const int field = m_fields[std::size_t(column)];
-    if (field < 0 || !m_recordset || !m_recordset->isOpen())
-        return false;
-    const ColumnType type = m_recordset->field(field).type;
-    return type == ColumnType::Number || type == ColumnType::Long;
+    return field >= 0 && m_recordset && m_recordset->isOpen() ? &m_recordset->field(field) : nullptr;
+}
+
+bool RecordsetModel::isNumber(int column) const
+{
+    const FieldInfo *const field = fieldOf(column);
+    return field && (field->type == ColumnType::Number || field->type == ColumnType::Long);
+}
+
+bool RecordsetModel::isYesNo(int column) const
+{
+    const FieldInfo *const field = fieldOf(column);
+    return field && field->type == ColumnType::Boolean;
+}
+
+bool RecordsetModel::isEditable(int column) const
+{
+    return m_writer && fieldOf(column) && m_columns[std::size_t(column)].edit != CellEdit::ReadOnly &&
+           m_recordset->isUpdatable();
 }
 
 int RecordsetModel::rowCount(const QModelIndex &parent) const
@@ -113,7 +128,15 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
             return {};
         [[fallthrough]];
     case Qt::DisplayRole:
+    case Qt::EditRole:
+        if (isYesNo(index.column()))
+            return {};
         return m_recordset->valueAt(index.row(), m_fields[std::size_t(index.column())]).text();
+    case Qt::CheckStateRole:
+        if (!isYesNo(index.column()))
+            return {};
+        return m_recordset->valueAt(index.row(), m_fields[std::size_t(index.column())]).yes() ? Qt::Checked
+                                                                                              : Qt::Unchecked;
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter | (isNumber(index.column()) ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::BackgroundRole:
@@ -125,6 +148,26 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
+}
+
+Qt::ItemFlags RecordsetModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags usual = QAbstractTableModel::flags(index);
+    if (!index.isValid() || !isEditable(index.column()))
+        return usual;
+    return usual | (isYesNo(index.column()) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable);
+}
+
+bool RecordsetModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (!index.isValid() || !isShown(index.row(), index.column()) || !isEditable(index.column()))
+        return false;
+    const int field = m_fields[std::size_t(index.column())];
+    if (role == Qt::CheckStateRole && isYesNo(index.column()))
+        return m_writer(index.row(), field, Value(value.toInt() == Qt::Checked));
+    if (role == Qt::EditRole && value.toString() != data(index, Qt::EditRole).toString())
+        return m_writer(index.row(), field, Value(value.toString()));
+    return false;
 }
 
 QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const

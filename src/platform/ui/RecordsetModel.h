@@ -5,15 +5,24 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
+enum class CellEdit
+{
+    ReadOnly,
+    Text, // typed, or picked from the column's list; a yes/no field is ticked
+};
+
 struct GridColumn
 {
     QString field;
     QString caption;
+    CellEdit edit = CellEdit::ReadOnly;
+    QStringList list = {}; // what may be picked; a value outside the list shows all the same
 };
 
 class RecordsetModel : public QAbstractTableModel
@@ -22,6 +31,8 @@ class RecordsetModel : public QAbstractTableModel
 
 public:
     using RowColour = std::function<QColor(const Recordset &, int row)>;
+    // Puts a value into a field of a row; false where it could not be written.
+    using Writer = std::function<bool(int row, int field, const Value &value)>;
 
     explicit RecordsetModel(QObject *parent = nullptr);
 
@@ -31,17 +42,24 @@ public:
     void setRecordset(std::shared_ptr<Recordset> recordset);
     const std::shared_ptr<Recordset> &recordset() const { return m_recordset; }
     void setRowColour(RowColour colour);
+    // Without a writer no cell can be edited, whatever the columns say.
+    void setWriter(Writer writer) { m_writer = std::move(writer); }
     void refresh();
     bool isNumber(int column) const;
+    bool isYesNo(int column) const; // shown as a tick
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     void reset();
     bool isShown(int row, int column) const;
+    bool isEditable(int column) const;
+    const FieldInfo *fieldOf(int column) const; // null where the record set has none of that name
 
     std::shared_ptr<Recordset> m_recordset;
     std::vector<GridColumn> m_columns;
@@ -49,4 +67,5 @@ private:
     bool m_allFields = true;   // the columns are those of the record set
     int m_rows = 0;
     RowColour m_colour;
+    Writer m_writer;
 };
