@@ -168,7 +168,7 @@ CREATE TABLE SostituisciMaster (
 CREATE TABLE Alimenti (
     Piatto      VARCHAR(100) COLLATE NOCASE,
     alimento    VARCHAR(100) COLLATE NOCASE,
-    quantita    REAL,
+    quantita    VARCHAR(50) COLLATE NOCASE, -- as the text has it, "(80 gr.)"
     KcNominale  REAL,
     quantita2   VARCHAR(50) COLLATE NOCASE,
     KcNominale2 REAL
@@ -178,8 +178,8 @@ CREATE TABLE Alimenti (
 CREATE TABLE alimenti2 (
     Piatto      VARCHAR(100) COLLATE NOCASE,
     Alimento    VARCHAR(100) COLLATE NOCASE,
-    quantita1   REAL,
+    quantita1   VARCHAR(50) COLLATE NOCASE,
     Kcnominale1 REAL,
-    quantita2   REAL,
+    quantita2   VARCHAR(50) COLLATE NOCASE,
     Kcnominale2 REAL
 );

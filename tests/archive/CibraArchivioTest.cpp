@@ -46,16 +46,18 @@ TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
     const Result help = archivio({"--help"});
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.err, "");
-    for (const char *command :
-         {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "verifica FILE", "proteggi FILE"})
+    for (const char *command : {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "verifica FILE",
+                                "proteggi FILE", "manutenzione COMANDO FILE", "    esporta ", "    importa ",
+                                "    abbina ", "    gruppi ", "    sostituti ", "    rapporto ", "    calorie "})
         EXPECT_TRUE(help.out.contains(command)) << command;
 }
 
 TEST_F(CibraArchivioTest, AWrongCommandLineIsStatusTwoAndShowsTheHelp)
 {
     const QString help = archivio({"--help"}).out;
-    for (const QStringList &arguments : {QStringList(), QStringList("nuovo"), QStringList({"nuovo", ""}),
-                                         QStringList({"nuovo", path, path}), QStringList({"cancella", path})}) {
+    for (const QStringList &arguments :
+         {QStringList(), QStringList("nuovo"), QStringList({"nuovo", ""}), QStringList({"nuovo", path, path}),
+          QStringList({"cancella", path}), QStringList({"manutenzione", "cancella", path})}) {
         const Result wrong = archivio(arguments);
         EXPECT_EQ(wrong.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(wrong.err, help);

@@ -1,5 +1,6 @@
 // cibra-archivio: makes, checks and protects archives from the command line.
 #include "ChiediPassword.h"
+#include "ComandoManutenzione.h"
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
 #include "PreparaCartella.h"
@@ -27,6 +28,17 @@ constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
                     NetServer.Mdb e INI\GestioneRete.INI; quello che c'è resta
   verifica FILE     controlla formato, tabelle, colonne e integrità
   proteggi FILE     dà una password all'archivio (chiesta due volte)
+
+  manutenzione COMANDO FILE
+                    esegue su un archivio uno dei comandi per i testi dei piatti:
+    esporta         scrive in Piatti.txt i testi di tutti i piatti
+    importa         riempie Alimenti con gli alimenti letti da Piatti.txt
+    abbina          aggiunge ad alimenti2 le righe di Alimenti, a due a due
+    gruppi          aggiunge a GruppoPiattiSostituiti i sostituti dei testi
+    sostituti       aggiunge a SostituisciMaster i sostituti dei testi
+    rapporto        scrive in Piatti.txt i piatti di Nocorrispondenza
+    calorie         copia in Piatti le calorie di newPiatti
+Piatti.txt sta in prova/TestiCibra della cartella del programma.
 
 Nessun comando sovrascrive un file che c'è già; proteggi sostituisce l'archivio
 solo quando la copia protetta è controllata. Una password si scrive al
@@ -109,6 +121,8 @@ int main(int argc, char **argv)
     try {
         if (arguments.size() == 2 && !arguments[1].isEmpty())
             status = esegui(arguments[0], arguments[1]);
+        else if (arguments.size() == 3 && arguments[0] == "manutenzione")
+            status = manutenzione(arguments[1], arguments[2]) ? kBene : kUsoErrato;
     } catch (const Failure &failure) {
         scrivi(stderr, "cibra-archivio: " + failure.words());
         return kGuasto;
