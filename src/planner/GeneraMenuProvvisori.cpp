@@ -197,16 +197,40 @@ private:
     int m_pane2 = 0;
 };
 
+// On a full disk the numbers of the shuffle are lost with the rest of the group, and the set must not go on with them.
+// Where nothing is lost it comes out as it was, its cursor too.
+void RileggiDopoUnGuasto(GruppoScritture &gruppo, Recordset &menuRs)
+{
+    try {
+        gruppo.close();
+    } catch (const Failure &) {
+        // The failure that led here is the one to be told.
+    }
+    try {
+        const int position = menuRs.AbsolutePosition();
+        menuRs.Requery();
+        if (position > 1)
+            menuRs.Move(position - 1);
+    } catch (const Failure &) {
+        // The archive cannot even be read any more: the next run says so.
+    }
+}
+
 } // namespace
 
 void GeneraMenuProvvisori(ModNetServer &modulo, InsiemiPiatti &insiemi, const SceltaMenu &scelta)
 {
     ScriviCheckLog(modulo, scelta);
     GruppoScritture gruppo(modulo.dati());
-    if (scelta.Check[10])
-        insiemi.SoloPreferiti(modulo.dati());
-    Generatore(modulo, insiemi, scelta).run();
-    gruppo.close();
+    try {
+        if (scelta.Check[10])
+            insiemi.SoloPreferiti(modulo.dati());
+        Generatore(modulo, insiemi, scelta).run();
+        gruppo.close();
+    } catch (const Failure &) {
+        RileggiDopoUnGuasto(gruppo, *insiemi.menuRs);
+        throw;
+    }
 }
 
 bool ChiediCompilazione(ModNetServer &modulo)

@@ -1,5 +1,6 @@
 #include "planner/forms/GeneraMenu.h"
 
+#include "catalogue/forms/InserimentoKCal.h"
 #include "planner/PlannerTest.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FormRegistry.h"
@@ -7,10 +8,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -21,6 +24,8 @@ protected:
     {
         host.report = [this](const Failure &failure) { failures.append(failure.words()); };
         registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, world.modulo); });
+        registry.setFactory<InserimentoKCal>(
+            [this] { return std::make_unique<InserimentoKCal>(host, registry, world.modulo); });
     }
 
     GeneraMenu &form() { return registry.get<GeneraMenu>(); }
@@ -60,6 +65,32 @@ protected:
                 days.append(rs->valueAt(row, 0).text());
         return days;
     }
+    void fillCalculator(const char *sex, const QString &age, const QString &height, const QString &weight)
+    {
+        form().show();
+        click("Command5");
+        if (sex)
+            click(sex);
+        box("Text9").setText(age);
+        box("Text10").setText(height);
+        box("Text11").setText(weight);
+    }
+    // Presses the button and answers the question for the person: the name of a button, or null for Esc.
+    void calculate(const char *answer)
+    {
+        question.clear();
+        QTimer::singleShot(0, &form(), [this, answer] {
+            auto &dialog = registry.get<InserimentoKCal>();
+            question = dialog.findChild<QLabel *>("Label1")->text();
+            if (answer)
+                dialog.findChild<QPushButton *>(answer)->click();
+            else
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        click("Command4");
+    }
+    bool calculatorShows() { return !control<QGroupBox>("Frame4").isHidden(); }
+    QStringList targets() { return {text("Text7"), text("Text8")}; }
     void addDays(const QStringList &days) // month/day/year
     {
         for (const QString &day : days)
@@ -69,6 +100,7 @@ protected:
     FormHost host;
     FormRegistry registry;
     QStringList failures;
+    QString question; // of the dialog for the person
 };
 
 TEST_F(GeneraMenuFormTest, ItOpensOnTheHouseholdWithTheFourLinesOfItsFile)
@@ -296,6 +328,29 @@ TEST_F(GeneraMenuFormTest, AnEmptyRangeLeadsBackToTheGenerationWithCaptionAndBar
     EXPECT_FALSE(control<QLabel>("Label5").isHidden());
 }
 
+TEST_F(GeneraMenuFormTest, ARangeThatRunsBackwardsEndsWithTheSameQuestion)
+{
+    fillCatalogue();
+    box("Text2").setText("01/03/2025"); // the day before the first
+    world.dialoghi.answer(MsgAnswer::No);
+    click("Command1");
+    EXPECT_EQ(world.dialoghi.boxes(),
+              QStringList("MsgBox 324 \"OK\" Elaborazione effettuata con successo!\nAdesso devo compilare i menu "
+                          "giornalieri per renderli visibili,\nVuoi Procedere? "));
+    EXPECT_EQ(countOf(dati, "Menu"), 0);
+    EXPECT_EQ(panel(), "Frame2");
+    EXPECT_EQ(failures, QStringList());
+}
+
+TEST_F(GeneraMenuFormTest, TheEntriesOfTheMenuStandInTheirOrder)
+{
+    QStringList entries;
+    for (const QAction *entry : control<QMenu>("mnuElabora").actions())
+        entries << (entry->isSeparator() ? QString("-") : entry->objectName());
+    EXPECT_EQ(entries, QStringList({"mnuAnagrafica", "-", "mnuCrea", "-", "mnuVisualizza", "mnuGenera", "MnukcCalcolo",
+                                    "-", "mnuPreferiti", "mnuEsci"}));
+}
+
 TEST_F(GeneraMenuFormTest, AFailingGenerationIsToldOnceAndTheFormLivesOn)
 {
     fillCatalogue();
@@ -401,6 +456,122 @@ TEST_F(GeneraMenuFormTest, EnterInTheHouseholdConfirms)
     EXPECT_EQ(panel(), "Frame1");
 }
 
+TEST_F(GeneraMenuFormTest, TheCalculatorOpensOverTheMiddleOfThePanelAndClosesByEitherButton)
+{
+    form().show();
+    EXPECT_FALSE(calculatorShows());
+    click("Command5");
+    EXPECT_TRUE(calculatorShows());
+    const QRect card = control<QGroupBox>("Frame4").geometry();
+    EXPECT_NEAR(card.center().x(), form().width() / 2, 1);
+    EXPECT_TRUE(control<QFrame>("Frame3").rect().contains(card));
+    EXPECT_EQ(QStringList({text("Text9"), text("Text10"), text("Text11")}), QStringList({"0", "0", "0"}));
+    click("Command5");
+    EXPECT_FALSE(calculatorShows());
+    click("Command5");
+    click("Command7");
+    EXPECT_FALSE(calculatorShows());
+    EXPECT_EQ(panel(), "Frame3");
+}
+
+TEST_F(GeneraMenuFormTest, TheFigureGoesIntoTheBoxOfThePersonChosenAndNoFurther)
+{
+    fillCalculator("Option1_0", "40", "170", "70");
+    calculate("Command1");
+    EXPECT_EQ(question, "A chi devo inserire il valore di '1557,5' KCal?");
+    EXPECT_EQ(targets(), QStringList({"1557,5", "1500"}));
+    EXPECT_FALSE(calculatorShows());
+    EXPECT_EQ(world.modulo.KcalPrimaPersona, "1100");
+    EXPECT_EQ(world.cartella.read("\\ini\\Anagrafica.txt"), "Ondira\r\nTesmo\r\n1100\r\n1500\r\n");
+
+    fillCalculator("Option1_1", "40", "170", "70");
+    calculate("Command2");
+    EXPECT_EQ(question, "A chi devo inserire il valore di '1723,5' KCal?");
+    EXPECT_EQ(targets(), QStringList({"1557,5", "1723,5"}));
+    click("Command3");
+    EXPECT_EQ(world.cartella.read("\\ini\\Anagrafica.txt"), "Ondira\r\nTesmo\r\n1557,5\r\n1723,5\r\n");
+}
+
+TEST_F(GeneraMenuFormTest, WithoutASexTheDialogAsksAboutZeroWhateverTheBoxesHold)
+{
+    fillCalculator(nullptr, "", "alta", "");
+    calculate("Command2");
+    EXPECT_EQ(question, "A chi devo inserire il valore di '0' KCal?");
+    EXPECT_EQ(targets(), QStringList({"1100", "0"}));
+    EXPECT_EQ(failures, QStringList());
+}
+
+TEST_F(GeneraMenuFormTest, EscapeInTheDialogChangesNoBoxAndClosesTheCard)
+{
+    fillCalculator("Option1_0", "40", "170", "70");
+    calculate(nullptr);
+    EXPECT_EQ(targets(), QStringList({"1100", "1500"}));
+    EXPECT_FALSE(calculatorShows());
+    EXPECT_EQ(world.modulo.NomeScelto, "");
+}
+
+TEST_F(GeneraMenuFormTest, EscapeChangesNoBoxWithoutAHouseholdEither)
+{
+    world.cartella.remove("\\ini\\Anagrafica.txt");
+    world.modulo.NomePrimaPersona.clear();
+    world.modulo.NomeSecondaPersona.clear();
+    fillCalculator("Option1_0", "40", "170", "70");
+    calculate(nullptr);
+    EXPECT_EQ(targets(), QStringList({"", ""}));
+}
+
+TEST_F(GeneraMenuFormTest, OfTwoPersonsOfOneNameTheFirstTakesTheFigure)
+{
+    world.cartella.write("\\ini\\Anagrafica.txt", "Anna\r\nAnna\r\n1100\r\n1500\r\n");
+    fillCalculator("Option1_1", "40", "170", "70");
+    calculate("Command2");
+    EXPECT_EQ(targets(), QStringList({"1723,5", "1500"}));
+}
+
+TEST_F(GeneraMenuFormTest, TheActivityBoxesExcludeEachOtherAndChangeNothing)
+{
+    fillCalculator("Option1_0", "40", "170", "70");
+    for (const int number : {13, 14, 15, 16, 13}) {
+        check(number).click();
+        QList<int> on;
+        for (int box = 13; box <= 16; ++box)
+            if (check(box).isChecked())
+                on.append(box);
+        EXPECT_EQ(on, QList<int>({number}));
+    }
+    EXPECT_EQ(checkedBoxes(), QList<int>()); // those of the meals are left alone
+    calculate("Command1");
+    EXPECT_EQ(targets(), QStringList({"1557,5", "1500"}));
+}
+
+TEST_F(GeneraMenuFormTest, ABoxWithoutANumberIsNamedAndTheCardStaysOpen)
+{
+    fillCalculator("Option1_0", "40", "1 metro", "70");
+    click("Command4");
+    EXPECT_EQ(failures, QStringList("Tipo non corrispondente: \"1 metro\" non è un numero (Altezza in cm.)"));
+    EXPECT_TRUE(calculatorShows());
+    EXPECT_EQ(targets(), QStringList({"1100", "1500"}));
+}
+
+TEST_F(GeneraMenuFormTest, EnterInTheCardCalculatesAndDoesNotConfirm)
+{
+    fillCalculator("Option1_0", "40", "1 metro", "70");
+    box("Text9").setFocus();
+    QTest::keyClick(&box("Text9"), Qt::Key_Return);
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_EQ(panel(), "Frame3");
+    click("Command7");
+    box("Text6").setFocus();
+    QTest::keyClick(&box("Text6"), Qt::Key_Return);
+    EXPECT_EQ(panel(), "Frame1");
+}
+
+TEST_F(GeneraMenuFormTest, TheCalculatorsPageOpensInTheBrowser)
+{
+    click("Command6");
+    EXPECT_EQ(world.programmi.started, QStringList("Page https://www.calculator.net/calorie-calculator.html"));
+}
+
 TEST_F(GeneraMenuFormTest, EveryCaptionStandsLetterByLetter)
 {
     const std::pair<const char *, const char *> labels[] = {
@@ -417,12 +588,25 @@ TEST_F(GeneraMenuFormTest, EveryCaptionStandsLetterByLetter)
         {"Label2_5", "Inserisce nella tabella MENU i dati relativi ai menu giornalieri creati"},
         {"Label2_3", "Visualizza dalla data :"},
         {"Label2_4", "a"},
+        {"Label6", "Eta in anni"},
+        {"Label7", "Altezza in cm."},
+        {"Label8", "Peso in Kg"},
     };
     for (const auto &[name, caption] : labels)
         EXPECT_EQ(control<QLabel>(name).text(), QString(caption)) << name;
     const std::pair<const char *, const char *> buttons[] = {
         {"Command1", "Crea Menu provvisori"},
         {"Command3", "Conferma"},
+        {"Command4", "** Calcola le tue Kcal per la cibra **"},
+        {"Command5", "Calcolo Cibra"},
+        {"Command6", "Consulta Calcolo HTML"},
+        {"Command7", "X"},
+        {"Option1_0", "Maschio "},
+        {"Option1_1", "Femmina"},
+        {"Check13", "Attivita fisica Leggera"},
+        {"Check14", "Attivita fisica media"},
+        {"Check15", "Attivita fisica pesante"},
+        {"Check16", "Estremamente pesante"},
         {"Periodo_0", "Settimana"},
         {"Periodo_1", "Mensile"},
         {"Periodo_2", "Annuale"},
@@ -453,6 +637,7 @@ TEST_F(GeneraMenuFormTest, EveryCaptionStandsLetterByLetter)
     for (const auto &[name, caption] : entries)
         EXPECT_EQ(control<QAction>(name).text(), QString(caption)) << name;
     EXPECT_EQ(control<QMenu>("mnuElabora").title(), "Elaborazione Cibra");
+    EXPECT_EQ(control<QGroupBox>("Frame4").title(), "Calcolo KCal  ");
 }
 
 TEST_F(GeneraMenuFormTest, ToolTipsAndFrequenciesAreThoseOfTheScreen)

@@ -1,6 +1,9 @@
 #include "planner/GeneraMenuProvvisori.h"
 
 #include "planner/PlannerTest.h"
+#include "platform/store/ArchiveFile.h"
+
+#include <QFile>
 
 namespace {
 
@@ -362,6 +365,41 @@ TEST_F(GeneraMenuTest, DishesWithApostrophesEnterTheMenuAsTheyAre)
     scelta.Freq[3] = "0";
     generate(scelta);
     EXPECT_EQ(column("Pranzo"), QStringList({"Orata", "Sogliola", "Spigola all'acqua pazza"}));
+}
+
+TEST_F(GeneraMenuTest, ADishWithoutACategoryStaysOutOfEveryComplement)
+{
+    insertRows(dati, "Sostituisci", "Piatto, tipo, Ordine", {"'Senza nome', 'Menu', 0"});
+    insiemi.Apri(dati);
+    SceltaMenu scelta = choice("01/03/2025", "31/03/2025");
+    scelta.Check[3] = true; // fish at lunch
+    scelta.Freq[3] = "-1";  // never: the complement every day
+    GeneraMenuProvvisori(world.modulo, insiemi, scelta);
+    EXPECT_EQ(column("Pranzo").size(), 31);
+    EXPECT_FALSE(column("Pranzo").contains("Senza nome"));
+    EXPECT_TRUE(column("Cena").contains("Senza nome")); // no kind was chosen there
+}
+
+TEST_F(GeneraMenuTest, AfterAGroupOfWritesWasLostTheNextRunStartsFromWhatTheArchiveHolds)
+{
+    // As a full disk does: the engine gives up the whole group.
+    QFile schema(CIBRA_SOURCE_DIR "/archive/schema.sql");
+    ASSERT_TRUE(schema.open(QIODevice::ReadOnly));
+    const QString path = world.cartella.path("Pieno.Mdb");
+    makeArchive(path, QString::fromUtf8(schema.readAll()) +
+                          "CREATE TRIGGER Pieno BEFORE INSERT ON Menu WHEN NEW.DataMenu = '2025-03-05' "
+                          "BEGIN SELECT RAISE(ROLLBACK, 'pieno'); END;");
+    dati.Close();
+    ASSERT_TRUE(dati.Open(path));
+    fillCatalogue();
+    insiemi.Apri(dati);
+    const SceltaMenu scelta = choice("01/03/2025", "08/03/2025");
+    EXPECT_NE(wordsOf([&] { GeneraMenuProvvisori(world.modulo, insiemi, scelta); }), "");
+    EXPECT_EQ(countOf(dati, "Menu"), 0);
+    EXPECT_EQ(valueOf(dati, "Select Max(Ordine) from Sostituisci"), "0");
+    dati.Execute("DROP TRIGGER Pieno");
+    EXPECT_EQ(wordsOf([&] { GeneraMenuProvvisori(world.modulo, insiemi, scelta); }), "");
+    EXPECT_EQ(countOf(dati, "Menu"), 8);
 }
 
 TEST_F(GeneraMenuTest, TheClosingQuestionHasNoAsItsButtonAtHand)

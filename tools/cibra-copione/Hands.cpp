@@ -340,7 +340,7 @@ void editCell(const QString &name, int row, const QString &column, const QString
         chooseInCombo(combo, text, name);
     else if (selectAllOf(editor))
         typeText(editor, text);
-    if (alive)
+    if (alive && alive->isVisible()) // a pick from a list has closed it already
         QTest::keyClick(alive.data(), Qt::Key_Return);
 }
 

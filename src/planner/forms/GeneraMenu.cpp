@@ -1,14 +1,19 @@
 #include "planner/forms/GeneraMenu.h"
 
+#include "catalogue/forms/InserimentoKCal.h"
 #include "core/Household.h"
 #include "pages/PaginaHtml.h"
 #include "planner/CheckLog.h"
+#include "planner/forms/Preferiti.h"
 #include "planner/GeneraMenuProvvisori.h"
 #include "planner/SettaPreferiti.h"
 #include "planner/VisteMenu.h"
 #include "platform/text/Dates.h"
+#include "platform/text/Numbers.h"
 #include "platform/ui/Tema.h"
 #include "ui_GeneraMenu.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -33,8 +38,8 @@ void setCaptionColour(QLabel *label, const QColor &colour)
 
 } // namespace
 
-GeneraMenu::GeneraMenu(FormHost &host, FormRegistry & /*registry*/, ModNetServer &modulo)
-    : Form("GeneraMenu", host), m_ui(std::make_unique<Ui::GeneraMenu>()), m_modulo(modulo)
+GeneraMenu::GeneraMenu(FormHost &host, FormRegistry &registry, ModNetServer &modulo)
+    : Form("GeneraMenu", host), m_ui(std::make_unique<Ui::GeneraMenu>()), m_registry(registry), m_modulo(modulo)
 {
     m_ui->setupUi(this);
     for (QAction *line : {m_ui->mnuu, m_ui->mnui, m_ui->mnuy})
@@ -64,6 +69,10 @@ void GeneraMenu::dress()
         card->setAutoFillBackground(true);
     }
     m_ui->LineaPasti->setForegroundRole(QPalette::Mid);
+    // A card that lies over the panel: filled to its edge, its title inside.
+    m_ui->Frame4->setStyleSheet("#Frame4 { background: palette(base); border: 2px solid palette(highlight);"
+                                " margin-top: 0; padding-top: 30px; }"
+                                "#Frame4::title { subcontrol-origin: border; left: 16px; top: 12px; padding: 0; }");
     QPalette bar = m_ui->Label5->palette();
     bar.setColor(QPalette::Window, Tema::accent());
     m_ui->Label5->setPalette(bar);
@@ -76,13 +85,20 @@ void GeneraMenu::connectHandlers()
     on(m_ui->mnuVisualizza, &QAction::triggered, this, &GeneraMenu::mnuVisualizza_Click);
     on(m_ui->mnuGenera, &QAction::triggered, this, &GeneraMenu::mnuGenera_Click);
     on(m_ui->MnukcCalcolo, &QAction::triggered, this, &GeneraMenu::MnukcCalcolo_Click);
+    on(m_ui->mnuPreferiti, &QAction::triggered, this, &GeneraMenu::mnuPreferiti_Click);
     on(m_ui->mnuEsci, &QAction::triggered, this, &GeneraMenu::mnuEsci_Click);
     on(m_ui->Command1, &QPushButton::clicked, this, &GeneraMenu::Command1_Click);
     on(m_ui->Command2, &QPushButton::clicked, this, &GeneraMenu::Command2_Click);
     on(m_ui->Command3, &QPushButton::clicked, this, &GeneraMenu::Command3_Click);
 
-    linkMeal({m_ui->Check1, m_ui->Check2, m_ui->Check3, m_ui->Check7, m_ui->Check8});
-    linkMeal({m_ui->Check4, m_ui->Check5, m_ui->Check6, m_ui->Check9, m_ui->Check11});
+    on(m_ui->Command4, &QPushButton::clicked, this, &GeneraMenu::Command4_Click);
+    on(m_ui->Command5, &QPushButton::clicked, this, &GeneraMenu::Command5_Click);
+    on(m_ui->Command6, &QPushButton::clicked, this, &GeneraMenu::Command6_Click);
+    on(m_ui->Command7, &QPushButton::clicked, this, &GeneraMenu::Command7_Click);
+
+    linkGroup({m_ui->Check1, m_ui->Check2, m_ui->Check3, m_ui->Check7, m_ui->Check8});
+    linkGroup({m_ui->Check4, m_ui->Check5, m_ui->Check6, m_ui->Check9, m_ui->Check11});
+    linkGroup({m_ui->Check13, m_ui->Check14, m_ui->Check15, m_ui->Check16});
     onWith(m_ui->Check10, &QCheckBox::toggled, this, &GeneraMenu::Check10_Click);
     for (const auto &[index, button] : ControlArray<QRadioButton>(this, "Periodo"))
         on(button, &QRadioButton::clicked, this,
@@ -94,7 +110,7 @@ void GeneraMenu::connectHandlers()
         on(box, &QLineEdit::textChanged, this, &GeneraMenu::DateVista_Change);
 }
 
-void GeneraMenu::linkMeal(const std::vector<QCheckBox *> &boxes)
+void GeneraMenu::linkGroup(const std::vector<QCheckBox *> &boxes)
 {
     for (QCheckBox *box : boxes)
         onWith(box, &QCheckBox::toggled, this, [box, boxes](GeneraMenu *, bool on) {
@@ -195,6 +211,11 @@ void GeneraMenu::MnukcCalcolo_Click()
     MnukcCalcolo(m_modulo);
 }
 
+void GeneraMenu::mnuPreferiti_Click()
+{
+    m_registry.get<Preferiti>().showModal();
+}
+
 void GeneraMenu::Command1_Click()
 {
     GeneraMenuProvvisori(m_modulo, m_insiemi, scelta());
@@ -233,6 +254,69 @@ void GeneraMenu::Command3_Click()
 {
     ScriviAnagrafica(m_modulo, {m_ui->Text5->text(), m_ui->Text6->text(), m_ui->Text7->text(), m_ui->Text8->text()});
     mnuCrea_Click();
+}
+
+void GeneraMenu::Command4_Click()
+{
+    const double K = CalcolaKCal(datiPersona());
+    auto &dialog = m_registry.get<InserimentoKCal>();
+    dialog.setDomanda(DomandaKCal(K));
+    dialog.showModal();
+    if (const std::optional<Persona> scelta = PersonaScelta(m_modulo))
+        (*scelta == Persona::Prima ? m_ui->Text7 : m_ui->Text8)->setText(TestoNumero(K));
+    showCalculator(false);
+}
+
+void GeneraMenu::Command5_Click()
+{
+    showCalculator(m_ui->Frame4->isHidden());
+}
+
+void GeneraMenu::Command6_Click()
+{
+    ConsultaCalcoloHtml(m_modulo);
+}
+
+void GeneraMenu::Command7_Click()
+{
+    showCalculator(false);
+}
+
+// How hard somebody works is asked for and changes nothing.
+DatiPersona GeneraMenu::datiPersona() const
+{
+    const Sesso sesso = m_ui->Option1_0->isChecked()   ? Sesso::Maschio
+                        : m_ui->Option1_1->isChecked() ? Sesso::Femmina
+                                                       : Sesso::Nessuno;
+    return {sesso, m_ui->Text9->text(), m_ui->Text10->text(), m_ui->Text11->text()};
+}
+
+void GeneraMenu::showCalculator(bool visible)
+{
+    centreCalculator();
+    m_ui->Frame4->setVisible(visible);
+    // Enter is meant for the card as long as it lies over the panel.
+    m_ui->Command3->setDefault(!visible);
+    m_ui->Command4->setDefault(visible);
+    if (visible)
+        m_ui->Option1_0->setFocus();
+    else
+        m_ui->Command5->setFocus();
+}
+
+void GeneraMenu::centreCalculator()
+{
+    QGroupBox *const card = m_ui->Frame4;
+    card->adjustSize();
+    const int lowest = m_ui->Frame3->height() - card->height(); // the menu bar takes its share of the form
+    card->move((width() - card->width()) / 2, std::max(0, std::min((height() - card->height()) / 2, lowest)));
+    card->raise();
+}
+
+void GeneraMenu::Form_Resize()
+{
+    if (!m_ui->Frame4->isHidden())
+        centreCalculator();
 }
 
 void GeneraMenu::Check10_Click(bool on)

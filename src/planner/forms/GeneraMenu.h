@@ -1,6 +1,7 @@
 // The planner: household, generation of the menus, and the grid of the calendar, one panel at a time.
 #pragma once
 
+#include "planner/CalcoloKCal.h"
 #include "planner/EspandiCalendario.h"
 #include "planner/InsiemiPiatti.h"
 #include "planner/Periodo.h"
@@ -37,6 +38,7 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Resize() override;
     void Form_KeyPress(int character) override;
 
 private:
@@ -45,10 +47,15 @@ private:
     void mnuVisualizza_Click();
     void mnuGenera_Click();
     void MnukcCalcolo_Click();
+    void mnuPreferiti_Click();
     void mnuEsci_Click() { unload(); }
     void Command1_Click();
     void Command2_Click();
     void Command3_Click();
+    void Command4_Click();
+    void Command5_Click();
+    void Command6_Click();
+    void Command7_Click();
     void Check10_Click(bool on);
     void Periodo_Click(TipoPeriodo tipo);
     void DateGenerazione_Change(); // Text1 and Text2
@@ -61,14 +68,18 @@ private:
 
     void connectHandlers();
     void dress();
-    void linkMeal(const std::vector<QCheckBox *> &boxes); // at most one of them is on
+    void linkGroup(const std::vector<QCheckBox *> &boxes); // at most one of them is on
     void showPanel(QWidget *panel, QWidget *firstBox);
     void showGrid(std::shared_ptr<Recordset> recordset);
     void loadHousehold();
+    void showCalculator(bool visible); // Frame4
+    void centreCalculator();
+    DatiPersona datiPersona() const;
     void restoreChoice();
     SceltaMenu scelta() const;
 
     std::unique_ptr<Ui::GeneraMenu> m_ui;
+    FormRegistry &m_registry;
     ModNetServer &m_modulo;
     InsiemiPiatti m_insiemi;
     bool m_CopiaDate = false; // Text1 or Text2 are copying themselves to Text3 and Text4

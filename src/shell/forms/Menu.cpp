@@ -5,11 +5,13 @@
 #include "core/Household.h"
 #include "pages/PaginaHtml.h"
 #include "planner/forms/GeneraMenu.h"
+#include "planner/forms/Preferiti.h"
 #include "platform/ui/FormRegistry.h"
 #include "sheet/forms/FrmCibra.h"
 #include "shell/ContaVisite.h"
 #include "shell/EtichettePersone.h"
 #include "shell/forms/Sfondo.h"
+#include "shell/Manutenzione.h"
 #include "shell/MarcatoreSfondo.h"
 #include "ui_Menu.h"
 
@@ -55,11 +57,15 @@ void Menu::connectHandlers()
     on(m_ui->mnucalcolaCibra, &QAction::triggered, this, &Menu::mnucalcolaCibra_Click);
     on(m_ui->mnumenuPiatti, &QAction::triggered, this, &Menu::mnumenuPiatti_Click);
     on(m_ui->mnuAlternativi, &QAction::triggered, this, &Menu::mnuAlternativi_Click);
+    on(m_ui->mnuPreferiti, &QAction::triggered, this, &Menu::mnuPreferiti_Click);
     on(m_ui->MnugeneraMenu, &QAction::triggered, this, &Menu::MnugeneraMenu_Click);
     on(m_ui->mnuDatabase, &QAction::triggered, this, &Menu::mnuDatabase_Click);
     on(m_ui->mnuHTML, &QAction::triggered, this, &Menu::mnuHTML_Click);
     on(m_ui->mnuVisualizza, &QAction::triggered, this, &Menu::mnuVisualizza_Click);
     on(m_ui->mnuesciRete, &QAction::triggered, this, &Menu::mnuesciRete_Click);
+    on(m_ui->Command111, &QPushButton::clicked, this, &Menu::Command111_Click);
+    on(m_ui->Command133, &QPushButton::clicked, this, &Menu::Command133_Click);
+    on(m_ui->Command10, &QPushButton::clicked, this, &Menu::Command10_Click);
 }
 
 void Menu::setPercorso(const QString &path)
@@ -137,6 +143,12 @@ void Menu::mnuAlternativi_Click()
     m_registry.get<CreaGruppo>().showModal();
 }
 
+void Menu::mnuPreferiti_Click()
+{
+    m_registry.get<Preferiti>().showModal();
+    aggiornaEtichette();
+}
+
 void Menu::MnugeneraMenu_Click()
 {
     m_registry.get<GeneraMenu>().showModal();
@@ -168,4 +180,19 @@ void Menu::mnuVisualizza_Click()
 void Menu::mnuesciRete_Click()
 {
     TerminaProgramma();
+}
+
+void Menu::Command111_Click()
+{
+    CopiaCalorie(m_modulo);
+}
+
+void Menu::Command133_Click()
+{
+    ElencaSostituti(m_modulo);
+}
+
+void Menu::Command10_Click()
+{
+    RapportoSenzaCorrispondenza(m_modulo, [this](const QString &Piatto) { setWindowTitle(Piatto); });
 }

@@ -31,11 +31,15 @@ private:
     void mnucalcolaCibra_Click();
     void mnumenuPiatti_Click();
     void mnuAlternativi_Click();
+    void mnuPreferiti_Click();
     void MnugeneraMenu_Click();
     void mnuDatabase_Click();
     void mnuHTML_Click();
     void mnuVisualizza_Click();
     void mnuesciRete_Click();
+    void Command111_Click();
+    void Command133_Click();
+    void Command10_Click();
 
     void connectHandlers();
     void dress();

@@ -8,6 +8,7 @@
 #include "catalogue/forms/Sostituti.h"
 #include "core/ErrorLog.h"
 #include "planner/forms/GeneraMenu.h"
+#include "planner/forms/Preferiti.h"
 #include "platform/ui/DialoghiQt.h"
 #include "platform/ui/Disegno.h"
 #include "platform/ui/FormHost.h"
@@ -62,6 +63,7 @@ void Program::Private::setFactories()
     registry.setFactory<PiattiKCAL>([this] { return std::make_unique<PiattiKCAL>(host, registry, modulo); });
     registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, registry, modulo); });
     registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, modulo); });
+    registry.setFactory<Preferiti>([this] { return std::make_unique<Preferiti>(host, registry, modulo); });
     registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, modulo); });
 }
 
