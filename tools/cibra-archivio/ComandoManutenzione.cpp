@@ -69,7 +69,7 @@ ProgramFolder cartellaDelProgramma(const QString &archivio)
     const QString own = QFileInfo(archivio).absolutePath();
     QDir folder(own);
     do {
-        if (const ProgramFolder candidate(folder.path()); candidate.fileExists("\\INI\\GestioneRete.INI"))
+        if (ProgramFolder candidate(folder.path()); candidate.fileExists("\\INI\\GestioneRete.INI"))
             return candidate;
     } while (folder.cdUp());
     return ProgramFolder(own);
