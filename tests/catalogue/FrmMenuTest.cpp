@@ -317,6 +317,39 @@ TEST_F(FrmMenuTest, AQuantityChangedInItsBoxIsStoredByTheNextMoveAndTheTotalsSta
     EXPECT_EQ(foodsOf("Pasta"), QStringList({"Pasta | 350 | 70 | 90 | 245 | 315", "Olio | 900 | 20 | 15 | 90 | 135"}));
 }
 
+TEST_F(FrmMenuTest, AQuantityThatSomebodyElseChangedMeanwhileIsToldAndTheirsIsKept)
+{
+    show();
+    dishes().setText("Pasta");
+    typeField(8, "20");
+    dati.Execute("UPDATE Piatti SET Piatti.quantita = 99 WHERE Piatti.Alimento = 'Olio'");
+    click("cmdNext");
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_EQ(foodsOf("Pasta").last(), "Olio | 900 | 99 | 15 | 90 | 135");
+    EXPECT_EQ(field(8), "20"); // what was typed is not lost
+}
+
+TEST_F(FrmMenuTest, ADishDeletedUnderTheOpenFormIsToldAndTheFormGoesOn)
+{
+    show();
+    dishes().setText("Pasta");
+    dati.Execute("DELETE * FROM Piatti WHERE Piatto = 'Pasta'");
+    typeField(8, "20");
+    click("cmdNext");
+    EXPECT_EQ(failures.size(), 1);
+    dishes().setText("Riso");
+    EXPECT_EQ(field(3), "Riso");
+    EXPECT_EQ(countOf(dati, "Piatti"), 2);
+}
+
+TEST_F(FrmMenuTest, ANameLongerThanItsColumnCannotBeTyped)
+{
+    show();
+    EXPECT_EQ(control<QLineEdit>("TxtFields_3").maxLength(), 100);
+    EXPECT_EQ(control<QLineEdit>("TxtFields_2").maxLength(), 100);
+    EXPECT_EQ(control<QLineEdit>("Text1").maxLength(), 100);
+}
+
 TEST_F(FrmMenuTest, AFoodIsDeletedAfterAQuestion)
 {
     show();

@@ -291,6 +291,7 @@ void FrmMenu::aggiungiAlimento()
     TxtFields(6)->setText(LivelloNominale(m_modulo.KcalPrimaPersona));
     TxtFields(7)->setText(LivelloNominale(m_modulo.KcalSecondaPersona));
     Combo2_Click();
+    scriviPosizione({});
 }
 
 void FrmMenu::salvaAlimento()
