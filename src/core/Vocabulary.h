@@ -4,6 +4,9 @@
 #include <QString>
 #include <QStringList>
 
+inline const QString kNomeProgramma = QStringLiteral("Cibra");
+inline const QString kIndirizzoAutore = QStringLiteral("cibra@example.org"); // where troubles are told
+
 namespace Pasto { // SchedaPranzo.PranzoCenaSpuntino
 inline const QString Colazione = QStringLiteral("Colazione");
 inline const QString Spuntino = QStringLiteral("Spuntino");

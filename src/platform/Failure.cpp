@@ -29,6 +29,8 @@ QString usualWords(FailureNumber number)
         return QStringLiteral("Operazione non consentita su un elenco già aperto");
     case FailureNumber::ConnectionClosed:
         return QStringLiteral("Il collegamento al database non è aperto");
+    case FailureNumber::Cancelled:
+        return QStringLiteral("L'operazione è stata annullata");
     case FailureNumber::RowChanged:
         return QStringLiteral("Il record è stato modificato o cancellato da un altro programma: "
                               "la modifica non è stata salvata");
@@ -40,7 +42,7 @@ QString usualWords(FailureNumber number)
     return QStringLiteral("Errore");
 }
 
-}
+} // namespace
 
 Failure::Failure(FailureNumber number, const QString &words, const QString &statement)
     : m_number(number), m_words(words), m_statement(statement), m_what(words.toUtf8())

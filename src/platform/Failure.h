@@ -5,7 +5,8 @@
 
 #include <exception>
 
-enum class FailureNumber : int {
+enum class FailureNumber : int
+{
     TypeMismatch = 13,          // a text that is no number or no date
     FileNotFound = 53,          // also: a program that cannot be started
     InputPastEnd = 62,          // reading past the end of a text file
@@ -18,6 +19,7 @@ enum class FailureNumber : int {
     ObjectClosed = 3704,        // an operation on a closed record set
     ObjectOpen = 3705,          // opening a record set that is open
     ConnectionClosed = 3709,    // a statement on a connection that is not open
+    Cancelled = 32755,          // the user gave a dialog of the system up
     RowChanged = -2147217864,   // the row was changed or deleted by somebody else since it was read
     LoginRefused = -2147217843, // the archive has a password
     Engine = -2147217900,       // whatever else the engine reports

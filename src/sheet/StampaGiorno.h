@@ -6,9 +6,6 @@
 #include <array>
 #include <functional>
 
-// The maker's address in the last line of both prints.
-inline const QString kIndirizzoAutore = QStringLiteral("cibra@example.org");
-
 // Meal kinds as the prints look them up, in the order in which they stand on the page: snacks before lunch.
 enum class Sezione
 {

@@ -1,5 +1,6 @@
 #include "sheet/StampaHtml.h"
 
+#include "core/Vocabulary.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextFile.h"
 #include "sheet/StampaGiorno.h"

@@ -1,6 +1,7 @@
 #include "sheet/StampaTesto.h"
 
 #include "core/Helpers.h"
+#include "core/Vocabulary.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextFile.h"

@@ -11,6 +11,7 @@
 //       m_ui->setupUi(this);
 //       prepara({{"F5 New", "Aggiunge un Nuovo Record "}, {"F4 Ricerca", "Ricerca"}, ...});
 //   }
+//   // The .ui file may also have a thin frame LineaModifica, which shows while something typed is not stored yet.
 //   QString istruzione() const override { return "SELECT * FROM Categorie"; }
 //
 // Every handler runs inside comando(), the error routine: what fails in it is shown and logged under the handler's own
@@ -18,6 +19,7 @@
 #pragma once
 
 #include "catalogue/CampiTabella.h"
+#include "catalogue/RigaPosizione.h"
 #include "core/ModNetServer.h"
 #include "platform/ui/CampoLegato.h"
 #include "platform/ui/Form.h"
@@ -46,18 +48,15 @@ protected:
     {
         QString testo, suggerimento;
     };
-    // The text of the position line, before position, "\" and count, and in place of them where there is no record.
-    struct RigaPosizione
-    {
-        QString conRecord, senzaRecord;
-    };
+
+    using RigaPosizione = ::RigaPosizione;
 
     SchedaRecord(const QString &name, FormHost &host, ModNetServer &modulo);
     ~SchedaRecord() override;
     // Finds the template's controls, makes the panels of StatusBar1 (seven or nine) and connects the handlers.
     void prepara(const std::vector<Pannello> &pannelli);
 
-    // ---- What a form says of itself -----------------------------------------------------------------------------
+    // What a form says of itself
     virtual QString istruzione() const = 0;                                 // of RsScheda
     virtual QString tabella() const { return QStringLiteral("Categorie"); } // whose next key a new record gets
     virtual Recordset::Access accesso() const { return Recordset::Access::Updatable; }
@@ -66,7 +65,8 @@ protected:
     // Position line of the four navigation commands, and what they tell on the background beforehand.
     virtual RigaPosizione rigaNavigazione(bool alPrimo) const;
     virtual void annunciaNavigazione();
-    // First thing in every command.
+    // First thing in every command on records (navigation, add, save, delete, search, refresh, grid), before its own
+    // steps; what it throws ends the command.
     virtual void primaDelComando() {}
     // The form's own combos, once RsScheda is open.
     virtual void legaCombo() {}
@@ -79,19 +79,19 @@ protected:
     virtual bool tastoProprio(const QString &tasto);
     // The panel "Griglia".
     virtual void pannelloGriglia();
-    // After a failure was shown. A row that somebody else has changed meanwhile is read again, so that the user sees
-    // it.
+    // A double click on MyGriglia.
+    virtual void nascondiGriglia();
+    // After a failure was shown. A row that somebody else has changed meanwhile is read again and comes on show.
     virtual void dopoErrore(const Failure &errore);
 
-    // ---- Load, resize, keys: a form with a load of its own calls the steps it shares ------------------------------
+    // Load, resize, keys: a form with a load of its own calls the steps it shares
     void Form_Load() override;
     void Form_Resize() override;
-    void Form_Unload() override;
     void Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
     void Form_KeyPress(int character) override;
     void Form_DblClick() override;
 
-    void proceduraAvvio(); // the start routine: column check, .mnu file
+    void proceduraAvvio(); // the start routine: column check, .mnu file; its failure is shown and logged
     void tappa();          // one more "." on panel 4 of the background
     void diritti();        // what the user's level offers
     void apriScheda();     // RsScheda
@@ -100,7 +100,7 @@ protected:
     void SettaLenTxt();
     void codaTitolo(); // the caption gains its tail
 
-    // ---- Commands: menu entry, key and panel alike ----------------------------------------------------------------
+    // Commands: menu entry, key and panel alike
     virtual void MnuAdd_Click();
     virtual void mnuModifica_Click() {} // no modify step in the template
     virtual void MnuDelete_Click();
@@ -129,16 +129,23 @@ protected:
     void StatusBar1_PanelClick(int panel);
     void ImgMarvo_Click();
 
-    // ---- Parts
-    // ------------------------------------------------------------------------------------------------------- Runs a
-    // handler with the error routine behind it; gives whether it went through.
-    bool comando(const QString &handler, const std::function<void()> &passi);
+    // Parts
+
+    using Rimedio = std::function<void(const Failure &)>;
+    // Runs a handler with the error routine behind it, then `rimedio` or dopoErrore; gives whether it went through.
+    bool comando(const QString &handler, const std::function<void()> &passi, const Rimedio &rimedio = {});
+    // The same with primaDelComando first.
+    bool comandoRecord(const QString &handler, const std::function<void()> &passi, const Rimedio &rimedio = {});
     void eseguiTasto(const QString &tasto); // "F2" to "F12"
     void mnuAbilita();
     void scriviPosizione(const RigaPosizione &riga);
     void scriviPosizioneSalvata(); // "F1 Help     *    Record: ...", the line of save, refresh, search
     void maiuscolo(int index);     // capitals and accented letters, where Stato is not "V" and the field is not null
-    void scriviCampi();            // what was typed into the boxes goes into the row
+    // A bound control that is no TxtFields: a change of it shows as unsaved, too.
+    void aggiungiCampo(CampoLegato *altro);
+    // A bound control was left: runs `passi`, and brings the keyboard back to it where they fail.
+    void lasciato(const QString &handler, CampoLegato &campo, const std::function<void()> &passi);
+    void scriviCampi(); // what was typed into the boxes goes into the row
     CampoLegato &campo(int index) { return *m_campi.at(index); }
     const std::map<int, CasellaLegata *> &campi() const { return m_campi; }
     QAction *voce(const char *name) const; // null where the form has no such entry
@@ -157,28 +164,40 @@ protected:
     bool Annullato = false; // a cancel was confirmed
 
 private:
+    class InComando;
+
+    void findControls();
     void connectCommands();
     void connectBoxes();
     void collegaVoce(const char *name, void (SchedaRecord::*handler)());
-    bool navigazioneConsentita() const;
+    void collegaBottone(const char *name, void (SchedaRecord::*handler)());
     bool tastoNavigazione(int key, Qt::KeyboardModifiers modifiers);
     bool tastoFunzione(int key);
-    void Tasto();
-    bool AggiustaCasini();
-    bool aggiustaCampo(CasellaLegata &campo);
+    bool tastoInvio(int key);
+    bool eseguiTastoComune(const QString &tasto);
+    void soloSe(bool condition, const std::function<void()> &passi); // else a beep
+    void limitaCampo(CasellaLegata &casella, const FieldInfo &campo);
+    void stampaImmagine();
+    void ripara(const Failure &errore);
+    void AggiustaCasini();
+    bool aggiustaCampo(CasellaLegata &casella);
     bool ConfermaCancellazione();
-    void cercaDa(int posizione);
-    void mostraGriglia(bool visible);
+    void cancellaConfermato();
+    void cercaOAvvisa(int posizione);
+    void mostraGriglia();
     void rileggi();
-    void scriviElencoMenu();
+    void tornaSu(const Value &chiave, int posizione);
+    void mostraModifica();
+    void passiAvvio();
     void pannelloStato(const QString &testo);
     QString inEsecuzione() const;
-    void sulBordo(bool avanti);
 
     ModNetServer &m_modulo;
     std::map<int, CasellaLegata *> m_campi;
+    std::vector<CampoLegato *> m_legati; // all bound controls, m_campi among them
     DataGrid *m_griglia = nullptr;
     QWidget *m_picStatBox = nullptr;
     QLabel *m_lblStatus = nullptr;
     StatusPanels *m_barra = nullptr;
+    int m_profondita = 0; // commands on records on the stack
 };

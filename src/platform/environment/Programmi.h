@@ -3,8 +3,18 @@
 
 #include <QString>
 
-enum class ProgramKind { TextViewer, Page, Calculator, Mail, Files, Printer };
+enum class ProgramKind
+{
+    TextViewer,
+    Page,
+    Calculator,
+    Mail,
+    Files,
+    Printer
+};
 
+// Printer: `target` is a picture file to be printed, through the system's print dialog; without one the dialog chooses
+// the printer for later, and giving it up throws Failure(Cancelled).
 class Programmi
 {
 public:

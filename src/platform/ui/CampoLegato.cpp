@@ -35,7 +35,8 @@ Failure namingField(const Failure &failure, const QString &field)
 
 } // namespace
 
-CampoLegato::CampoLegato(QWidget *control, const QString &dataField) : QObject(control), m_field(dataField)
+CampoLegato::CampoLegato(QWidget *control, const QString &dataField)
+    : QObject(control), m_control(control), m_field(dataField)
 {
     control->installEventFilter(this);
 }
@@ -111,6 +112,12 @@ void CampoLegato::setChanged(bool isChanged)
         return;
     m_changed = isChanged;
     emit changed();
+}
+
+// As by the Tab key, which selects the text.
+void CampoLegato::takeFocus()
+{
+    m_control->setFocus(Qt::TabFocusReason);
 }
 
 void CampoLegato::write()

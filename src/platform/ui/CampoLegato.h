@@ -48,6 +48,9 @@ public:
     void write();
     void show(); // the row's value again; what was typed is forgotten
 
+    QWidget *control() const { return m_control; }
+    void takeFocus(); // the keyboard goes to the control, its text selected
+
 signals:
     void left();    // the user went on to another control (not: a message box came up, a menu was opened)
     void changed(); // isChanged has become true or false
@@ -70,6 +73,7 @@ private:
     void setChanged(bool changed);
     void follow(bool on);
 
+    QWidget *m_control;
     std::shared_ptr<Recordset> m_recordset;
     QString m_field;
     bool m_changed = false;

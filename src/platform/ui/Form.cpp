@@ -211,8 +211,9 @@ bool Form::previewKey(QKeyEvent *key)
         runHandler([this] { Form_KeyPress(kEscape); });
         return true;
     }
+    m_keySwallowed = false;
     runHandler([this, key] { Form_KeyDown(key->key(), key->modifiers()); });
-    return m_unloading; // the control is on its way out
+    return m_keySwallowed || m_unloading; // an unloaded form's control is on its way out
 }
 
 void Form::closeEvent(QCloseEvent *event)

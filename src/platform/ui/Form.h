@@ -53,7 +53,9 @@ protected:
     // Keys come to the form before the control that has the focus gets them; Esc ends there.
     virtual void Form_KeyDown(int key, Qt::KeyboardModifiers) { (void)key; }
     virtual void Form_KeyPress(int character) { (void)character; } // 27 for Esc
-    virtual void Form_DblClick() {}                                // on the form's ground, not on a control
+    // Called from Form_KeyDown: the key has done its duty and goes on to no control.
+    void swallowKey() { m_keySwallowed = true; }
+    virtual void Form_DblClick() {} // on the form's ground, not on a control
 
     // Connects a signal to a handler of this form inside the guard:
     //   on(Command1, &QPushButton::clicked, this, &GeneraMenu::Command1_Click);
@@ -102,4 +104,5 @@ private:
     bool m_unloading = false;
     bool m_dropped = false;
     bool m_inResize = false;
+    bool m_keySwallowed = false;
 };

@@ -36,7 +36,7 @@ QStringList candidates(ProgramKind kind)
         return {QStringLiteral("nautilus"), QStringLiteral("dolphin"), QStringLiteral("thunar"),
                 QStringLiteral("nemo"),     QStringLiteral("caja"),    QStringLiteral("pcmanfm")};
     case ProgramKind::Printer:
-        return {QStringLiteral("system-config-printer")};
+        break; // no program: the toolkit's dialog
     }
     return {};
 }
@@ -70,7 +70,11 @@ QUrl addressOf(ProgramKind kind, const QString &target)
 void ProgrammiQt::start(ProgramKind kind, const QString &target)
 {
     bool started = false;
-    if (kind == ProgramKind::Calculator || kind == ProgramKind::Printer) {
+    if (kind == ProgramKind::Printer) {
+        target.isEmpty() ? m_stampante.imposta() : m_stampante.stampa(target);
+        return;
+    }
+    if (kind == ProgramKind::Calculator) {
         started = startFirst(candidates(kind), {});
     } else {
         const QUrl url = addressOf(kind, target);
@@ -78,9 +82,7 @@ void ProgrammiQt::start(ProgramKind kind, const QString &target)
                   startFirst(candidates(kind), {url.isLocalFile() ? url.toLocalFile() : url.toString()});
     }
     if (!started) {
-        const QString what = kind == ProgramKind::Calculator ? QStringLiteral("la calcolatrice")
-                             : kind == ProgramKind::Printer  ? QStringLiteral("le impostazioni della stampante")
-                                                             : target;
+        const QString what = kind == ProgramKind::Calculator ? QStringLiteral("la calcolatrice") : target;
         throw Failure(FailureNumber::FileNotFound,
                       QStringLiteral("Non è stato trovato nessun programma per aprire: ") + what);
     }

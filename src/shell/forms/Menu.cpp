@@ -1,6 +1,7 @@
 #include "shell/forms/Menu.h"
 
 #include "catalogue/forms/CreaGruppo.h"
+#include "catalogue/forms/FrmCategorie.h"
 #include "catalogue/forms/FrmMenu.h"
 #include "core/Household.h"
 #include "pages/PaginaHtml.h"
@@ -59,6 +60,7 @@ void Menu::connectHandlers()
     on(m_ui->mnuAlternativi, &QAction::triggered, this, &Menu::mnuAlternativi_Click);
     on(m_ui->mnuPreferiti, &QAction::triggered, this, &Menu::mnuPreferiti_Click);
     on(m_ui->MnugeneraMenu, &QAction::triggered, this, &Menu::MnugeneraMenu_Click);
+    on(m_ui->MnuAlimenti, &QAction::triggered, this, &Menu::MnuAlimenti_Click);
     on(m_ui->mnuDatabase, &QAction::triggered, this, &Menu::mnuDatabase_Click);
     on(m_ui->mnuHTML, &QAction::triggered, this, &Menu::mnuHTML_Click);
     on(m_ui->mnuVisualizza, &QAction::triggered, this, &Menu::mnuVisualizza_Click);
@@ -153,6 +155,11 @@ void Menu::MnugeneraMenu_Click()
 {
     m_registry.get<GeneraMenu>().showModal();
     aggiornaEtichette();
+}
+
+void Menu::MnuAlimenti_Click()
+{
+    m_registry.get<FrmCategorie>().showModal();
 }
 
 void Menu::mnuDatabase_Click()

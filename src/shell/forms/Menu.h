@@ -33,6 +33,7 @@ private:
     void mnuAlternativi_Click();
     void mnuPreferiti_Click();
     void MnugeneraMenu_Click();
+    void MnuAlimenti_Click();
     void mnuDatabase_Click();
     void mnuHTML_Click();
     void mnuVisualizza_Click();

@@ -1,12 +1,14 @@
 #include "shell/forms/Program.h"
 
 #include "catalogue/forms/CreaGruppo.h"
+#include "catalogue/forms/FrmCategorie.h"
 #include "catalogue/forms/FrmMenu.h"
 #include "catalogue/forms/InserimentoKCal.h"
 #include "catalogue/forms/MyBrowse.h"
 #include "catalogue/forms/PiattiKCAL.h"
 #include "catalogue/forms/Sostituti.h"
 #include "core/ErrorLog.h"
+#include "core/Vocabulary.h"
 #include "planner/forms/GeneraMenu.h"
 #include "planner/forms/Preferiti.h"
 #include "platform/ui/DialoghiQt.h"
@@ -64,6 +66,7 @@ void Program::Private::setFactories()
     registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, registry, modulo); });
     registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, modulo); });
     registry.setFactory<Preferiti>([this] { return std::make_unique<Preferiti>(host, registry, modulo); });
+    registry.setFactory<FrmCategorie>([this] { return std::make_unique<FrmCategorie>(host, modulo); });
     registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, modulo); });
 }
 
@@ -75,7 +78,7 @@ void Program::Private::report(const Failure &failure)
 
 QString Program::name()
 {
-    return "Cibra";
+    return kNomeProgramma;
 }
 
 Program::Program(const ProgramFolder &folder, Programmi &programmi, Orologio &orologio, Dado &dado, Schermo &schermo)
