@@ -5,7 +5,7 @@
 #include "platform/Failure.h"
 
 #include <algorithm>
-#include <utility>
+#include <vector>
 
 namespace {
 
@@ -17,128 +17,139 @@ enum class Scelta
     Doppio
 };
 
-const QString kParzialmenteScremato = QStringLiteral("Latte di vacca parzialmente scremato");
-const QString kArachidi = QStringLiteral("Arachidi tostate");
-
 // A group in a list, as its line in elenchi.txt tells it.
 struct VoceElenco
 {
-    explicit VoceElenco(const QString &line);
+    explicit VoceElenco(const QByteArray &line);
 
-    QString gruppo;
+    QByteArray gruppo;
     Scelta scelta = Scelta::Tutti;
-    QStringList nomi;
+    QByteArrayList nomi;
 };
 
-Failure misspelt(const QString &line)
+Failure misspelt(const QByteArray &line)
 {
     return {FailureNumber::TypeMismatch, QStringLiteral("Riga errata negli elenchi della pagina: ") + line};
 }
 
-Scelta choiceNamed(const QString &word, const QString &line)
+Scelta choiceNamed(const QByteArray &word, const QByteArray &line)
 {
-    if (word == QStringLiteral("senza"))
+    if (word == "senza")
         return Scelta::Senza;
-    if (word == QStringLiteral("solo"))
+    if (word == "solo")
         return Scelta::Solo;
-    if (word == QStringLiteral("doppio"))
+    if (word == "doppio")
         return Scelta::Doppio;
     throw misspelt(line);
 }
 
-VoceElenco::VoceElenco(const QString &line) : gruppo(line.section(QStringLiteral(": "), 0, 0))
+VoceElenco::VoceElenco(const QByteArray &line)
 {
-    const QString rest = line.section(QStringLiteral(": "), 1);
-    if (rest.isEmpty())
+    const qsizetype colon = line.indexOf(": ");
+    gruppo = line.first(colon < 0 ? line.size() : colon);
+    if (colon < 0)
         return;
-    scelta = choiceNamed(rest.section(u' ', 0, 0), line);
-    nomi = rest.section(u' ', 1).split(QStringLiteral(", "));
+    const QByteArray rest = line.sliced(colon + 2);
+    const qsizetype blank = rest.indexOf(' ');
+    scelta = choiceNamed(rest.first(std::max<qsizetype>(blank, 0)), line);
+    for (const QByteArray &name : rest.sliced(blank + 1).split(','))
+        nomi.append(name.trimmed());
 }
 
-// Writes the options of the lists one after the other; the first of the roasted peanuts differs from all later ones.
+// What a food looks like in a list, one line or two. Two foods carry a stray sign, and one of them is closed by no tag.
+QByteArray opzione(const AlimentoPagina &food, const QByteArray &fineRiga)
+{
+    const bool open = food.nome == "Arachidi tostate";
+    QByteArray text;
+    text.reserve(120);
+    text.append("<option value=\"").append(food.valore).append("\">").append(food.nome);
+    if (open || food.nome == "Ceci secchi")
+        text.append("&gt;");
+    if (!open)
+        text.append("</option>");
+    if (food.nome == "Latte di vacca parzialmente scremato") // the one name broken over two lines
+        text.replace(" scremato", fineRiga + "scremato");
+    return text.append(fineRiga);
+}
+
+struct OpzionePagina
+{
+    QByteArray nome;
+    QByteArray righe;
+};
+
+// Writes group after group of the lists.
 class ScrittoreElenchi
 {
 public:
-    ScrittoreElenchi() : m_gruppi(AlimentiPagina()) {}
+    explicit ScrittoreElenchi(const QByteArray &fineRiga);
 
-    QStringList gruppo(const QString &line);
+    void gruppo(const QByteArray &line, QByteArray &list) const;
 
 private:
-    const GruppoPagina &trova(const VoceElenco &voce, const QString &line) const;
-    void opzione(QStringList &lines, const AlimentoPagina &food);
-    QString fine(const QString &nome);
+    const std::vector<OpzionePagina> &trova(const VoceElenco &voce, const QByteArray &line) const;
 
-    std::vector<GruppoPagina> m_gruppi;
-    bool m_arachidiScritte = false;
+    QByteArray m_fineRiga;
+    QHash<QByteArray, std::vector<OpzionePagina>> m_gruppi;
 };
 
-const GruppoPagina &ScrittoreElenchi::trova(const VoceElenco &voce, const QString &line) const
+ScrittoreElenchi::ScrittoreElenchi(const QByteArray &fineRiga) : m_fineRiga(fineRiga)
 {
-    const auto found = std::find_if(m_gruppi.begin(), m_gruppi.end(),
-                                    [&](const GruppoPagina &group) { return group.nome == voce.gruppo; });
-    if (found == m_gruppi.end())
+    for (const GruppoPagina &group : AlimentiPagina()) {
+        std::vector<OpzionePagina> &options = m_gruppi[group.nome];
+        for (const AlimentoPagina &food : group.alimenti)
+            options.push_back({food.nome, opzione(food, fineRiga)});
+    }
+}
+
+const std::vector<OpzionePagina> &ScrittoreElenchi::trova(const VoceElenco &voce, const QByteArray &line) const
+{
+    const auto group = m_gruppi.find(voce.gruppo);
+    if (group == m_gruppi.end())
         throw misspelt(line);
-    const bool known = std::all_of(voce.nomi.begin(), voce.nomi.end(), [&](const QString &name) {
-        return std::any_of(found->alimenti.begin(), found->alimenti.end(),
-                           [&](const AlimentoPagina &food) { return food.nome == name; });
+    const bool known = std::all_of(voce.nomi.begin(), voce.nomi.end(), [&](const QByteArray &name) {
+        return std::any_of(group->begin(), group->end(), [&](const OpzionePagina &food) { return food.nome == name; });
     });
     if (!known)
         throw misspelt(line);
-    return *found;
+    return *group;
 }
 
-QStringList ScrittoreElenchi::gruppo(const QString &line)
+void ScrittoreElenchi::gruppo(const QByteArray &line, QByteArray &list) const
 {
     const VoceElenco voce(line);
-    QStringList lines(QStringLiteral("// ") + voce.gruppo);
-    for (const AlimentoPagina &food : trova(voce, line).alimenti) {
-        const bool named = voce.nomi.contains(food.nome);
+    list.append("// ").append(voce.gruppo).append(m_fineRiga);
+    for (const OpzionePagina &food : trova(voce, line)) {
+        const bool named = voce.scelta != Scelta::Tutti && voce.nomi.contains(food.nome);
         if (voce.scelta == (named ? Scelta::Senza : Scelta::Solo))
             continue;
-        opzione(lines, food);
+        list.append(food.righe);
         if (named && voce.scelta == Scelta::Doppio)
-            opzione(lines, food);
+            list.append(food.righe);
     }
-    return lines;
-}
-
-void ScrittoreElenchi::opzione(QStringList &lines, const AlimentoPagina &food)
-{
-    const QString option = QStringLiteral("<option value=\"") + food.valore + QStringLiteral("\">") + fine(food.nome);
-    if (food.nome == kParzialmenteScremato) // one name is broken over two lines
-        lines.append({option.section(u' ', 0, -2), option.section(u' ', -1)});
-    else
-        lines.append(option);
-}
-
-// Name and end of an option. Two foods carry a stray sign, and one of them is closed by no tag.
-QString ScrittoreElenchi::fine(const QString &nome)
-{
-    if (nome == kArachidi)
-        return nome + (std::exchange(m_arachidiScritte, true) ? QStringLiteral("&gt;") : QStringLiteral(">"));
-    if (nome == QStringLiteral("Ceci secchi"))
-        return nome + QStringLiteral("&gt;</option>");
-    return nome + QStringLiteral("</option>");
 }
 
 } // namespace
 
-QHash<QString, QStringList> ElenchiPagina()
+QHash<QByteArray, QByteArray> ElenchiPagina(const QByteArray &fineRiga)
 {
-    QHash<QString, QStringList> lists;
-    ScrittoreElenchi scrittore;
-    QStringList *list = nullptr;
-    for (const QString &line : RigheModello(QStringLiteral("elenchi.txt"))) {
-        if (line.isEmpty() || line.startsWith(u'#'))
-            continue;
-        if (line.startsWith(u'['))
-            list = &lists[line.mid(1, line.size() - 2)];
+    QHash<QByteArray, QByteArray> lists;
+    const ScrittoreElenchi scrittore(fineRiga);
+    QByteArray *list = nullptr;
+    perOgniRiga(TestoModello("elenchi.txt"), [&](QByteArrayView view) {
+        const QByteArray line = view.toByteArray();
+        if (line.isEmpty() || line.startsWith('#'))
+            return;
+        if (line.startsWith('['))
+            list = &lists[line.sliced(1).chopped(1)];
         else if (!list)
             throw misspelt(line);
-        else if (line.startsWith(u' '))
-            list->append(line);
+        else if (line.startsWith(' '))
+            list->append(line).append(fineRiga);
         else
-            list->append(scrittore.gruppo(line));
-    }
+            scrittore.gruppo(line, *list);
+    });
+    // The first list has the sign as it was typed.
+    lists["A1"].replace("tostate&gt;", "tostate>");
     return lists;
 }

@@ -1,9 +1,9 @@
 // The lists from which the foods of a meal are picked.
 #pragma once
 
+#include <QByteArray>
 #include <QHash>
-#include <QString>
-#include <QStringList>
 
-// The lines of each list by its name, "A1" to "D7": a line "// group" and its options, group after group.
-QHash<QString, QStringList> ElenchiPagina();
+// The lines of each list by its name, "A1" to "D7": a line "// group" and its options, group after group, each with
+// `fineRiga` behind it.
+QHash<QByteArray, QByteArray> ElenchiPagina(const QByteArray &fineRiga);

@@ -3,96 +3,107 @@
 #include "core/Indirizzi.h"
 #include "pages/Elenchi.h"
 #include "platform/Failure.h"
+#include "platform/text/CodePage.h"
 
 #include <QFile>
 
 namespace {
+
+constexpr qsizetype kRoom = 150'000; // bytes, above the size of the whole page
 
 // Expands the files into one text, line by line in the order of the page.
 class Stesura
 {
 public:
     explicit Stesura(Pagina pagina)
-        : m_pagina(pagina == Pagina::Intera ? QStringLiteral("intera") : QStringLiteral("breve")),
-          m_fineRiga(pagina == Pagina::Intera ? QStringLiteral(" \r\n") : QStringLiteral("  \r\n")),
-          m_elenchi(ElenchiPagina())
+        : m_pagina(pagina == Pagina::Intera ? "intera" : "breve"),
+          m_fineRiga(pagina == Pagina::Intera ? " \r\n" : "  \r\n")
     {
     }
 
-    QString testo();
+    QByteArray testo();
 
 private:
-    void usa(const QString &file, const QString &text);
-    void comando(const QString &line);
-    void elenco(const QString &name);
-    void riga(const QString &line) { m_testo += line + m_fineRiga; }
+    void usa(const QByteArray &file, const QByteArray &argomento);
+    void comando(const QByteArray &line);
+    void elenco(const QByteArray &name);
+    const QByteArray &modello(const QByteArray &file);
 
-    QString m_pagina;
-    QString m_fineRiga;
-    QHash<QString, QStringList> m_elenchi;
-    QHash<QString, QStringList> m_file;
+    QByteArray m_pagina;
+    QByteArray m_fineRiga;
+    QHash<QByteArray, QByteArray> m_elenchi; // filled when the first is asked for
+    QHash<QByteArray, QByteArray> m_modelli;
     bool m_altraPagina = false; // inside a part for the other page
-    QString m_testo;
+    QByteArray m_testo;
 };
 
-QString Stesura::testo()
+QByteArray Stesura::testo()
 {
-    m_testo.reserve(200'000);
-    usa(QStringLiteral("pagina.html"), {});
+    m_testo.reserve(kRoom);
+    usa("pagina.html", {});
     return m_testo;
 }
 
-void Stesura::usa(const QString &file, const QString &text)
+void Stesura::usa(const QByteArray &file, const QByteArray &argomento)
 {
-    if (!m_file.contains(file))
-        m_file[file] = RigheModello(file);
-    const QStringList lines = m_file[file];
-    for (QString line : lines) {
-        line.replace(QStringLiteral("##"), text);
-        if (line.startsWith(u'@'))
-            comando(line);
+    QByteArray text = modello(file);
+    if (!argomento.isEmpty())
+        text.replace("##", argomento);
+    perOgniRiga(text, [this](QByteArrayView line) {
+        if (line.startsWith('@'))
+            comando(line.toByteArray());
         else if (!m_altraPagina)
-            riga(line);
-    }
+            m_testo.append(line).append(m_fineRiga);
+    });
 }
 
-void Stesura::comando(const QString &line)
+const QByteArray &Stesura::modello(const QByteArray &file)
 {
-    const QString word = line.section(u' ', 0, 0);
-    const QString argument = line.section(u' ', 1, 1);
-    if (word == QStringLiteral("@se"))
+    QByteArray &text = m_modelli[file];
+    if (text.isNull())
+        text = TestoModello(file).replace("{PaginaPubblica}", toWindows1252(kPaginaCalorie));
+    return text;
+}
+
+void Stesura::comando(const QByteArray &line)
+{
+    const QByteArrayList words = line.split(' ');
+    const QByteArray &word = words[0];
+    const QByteArray argument = words.value(1);
+    if (word == "@se")
         m_altraPagina = argument != m_pagina;
-    else if (word == QStringLiteral("@fine"))
+    else if (word == "@fine")
         m_altraPagina = false;
     else if (m_altraPagina)
         return;
-    else if (word == QStringLiteral("@elenco"))
+    else if (word == "@elenco")
         elenco(argument);
     else
-        usa(argument, line.section(u' ', 2));
+        usa(argument, words.mid(2).join(' '));
 }
 
-void Stesura::elenco(const QString &name)
+void Stesura::elenco(const QByteArray &name)
 {
+    if (m_elenchi.isEmpty())
+        m_elenchi = ElenchiPagina(m_fineRiga);
     if (!m_elenchi.contains(name))
         throw Failure(FailureNumber::TypeMismatch, QStringLiteral("La pagina non ha l'elenco ") + name);
-    for (const QString &line : m_elenchi.value(name))
-        riga(line);
+    m_testo.append(m_elenchi[name]);
 }
 
 } // namespace
 
-QString TestoPagina(Pagina pagina)
+QByteArray TestoPagina(Pagina pagina)
 {
-    return Stesura(pagina).testo().replace(QStringLiteral("{PaginaPubblica}"), kPaginaCalorie);
+    return Stesura(pagina).testo();
 }
 
-QStringList RigheModello(const QString &file)
+QByteArray TestoModello(const char *file)
 {
     QFile resource(QStringLiteral(":/pagina/") + file);
     if (!resource.open(QIODevice::ReadOnly))
         throw Failure::usual(FailureNumber::FileNotFound, resource.fileName());
-    QStringList lines = QString::fromUtf8(resource.readAll()).split(u'\n');
-    lines.removeLast(); // each line has its end
-    return lines;
+    QByteArray text = toWindows1252(QString::fromUtf8(resource.readAll()));
+    text.chop(1);
+    return text;
 }

@@ -4,10 +4,11 @@
 //   @usa FILE [TEXT]    the lines of another file, TEXT in place of "##"
 //   @elenco NAME        the foods of a list
 //   @se intera|breve    what follows up to the next @fine is for that page only
+//
+// All texts here are bytes of windows-1252, the code page of the page.
 #pragma once
 
-#include <QString>
-#include <QStringList>
+#include <QByteArray>
 
 enum class Pagina
 {
@@ -16,7 +17,19 @@ enum class Pagina
 };
 
 // Whole, line ends included: each line ends in one blank (the short page: two) and CR LF.
-QString TestoPagina(Pagina pagina);
+QByteArray TestoPagina(Pagina pagina);
 
-// The lines of one of those files. Throws Failure(FileNotFound) where there is none.
-QStringList RigheModello(const QString &file);
+// One of those files, its last line without an end. Throws Failure(FileNotFound) where there is none.
+QByteArray TestoModello(const char *file);
+
+// Calls `work` with each line of such a file, a QByteArrayView.
+template <typename Work>
+void perOgniRiga(const QByteArray &text, Work work)
+{
+    QByteArrayView rest(text);
+    for (qsizetype end = rest.indexOf('\n'); end >= 0; end = rest.indexOf('\n')) {
+        work(rest.first(end));
+        rest = rest.sliced(end + 1);
+    }
+    work(rest);
+}

@@ -9,7 +9,7 @@ void writeAndOpen(ModNetServer &modulo, Pagina pagina)
 {
     const QString file = modulo.mondo.folder.resolve(QStringLiteral("\\Documenti\\Cibra.html"));
     TextWriter writer(file, TextEncoding::CodePage);
-    writer.text(TestoPagina(pagina));
+    writer.encodedLines(TestoPagina(pagina));
     writer.close();
     modulo.mondo.programmi.start(ProgramKind::Page, file);
 }

@@ -15,7 +15,7 @@ QHash<QString, QString> values()
     QHash<QString, QString> found;
     for (const GruppoPagina &group : AlimentiPagina())
         for (const AlimentoPagina &food : group.alimenti)
-            found[food.nome] = food.valore;
+            found[QString::fromLatin1(food.nome)] = QString::fromLatin1(food.valore);
     return found;
 }
 
@@ -23,7 +23,7 @@ TEST(AlimentiTest, TheTableHasItsFoodsGroupByGroup)
 {
     QStringList groups;
     for (const GruppoPagina &group : AlimentiPagina())
-        groups.append(group.nome + ' ' + QString::number(group.alimenti.size()));
+        groups.append(QString::fromLatin1(group.nome) + ' ' + QString::number(group.alimenti.size()));
     EXPECT_EQ(groups, QStringList({"Cereali e derivati 14", "Dolci 13", "Frutta fresca 22", "Frutta secca 12",
                                    "Carni trasformate e conservate 14", "Formaggi 17", "Uova 3", "Latte 4",
                                    "Condimenti 7", "Verdura fresca 19", "Legumi freschi 4", "Legumi secchi 5",

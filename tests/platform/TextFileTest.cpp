@@ -256,3 +256,14 @@ TEST(TextFileTest, NoiseIsReadAsLinesOfSomething)
     folder.write("mark.txt", "\xEF\xBB\xBF" + noise);
     EXPECT_FALSE(linesOf(folder.path("mark.txt")).isEmpty());
 }
+
+TEST(TextFileTest, LinesThatAreEncodedAlreadyKeepTheirPlaceAmongTheOthers)
+{
+    const TemporaryFolder folder;
+    TextWriter writer(folder.path("a.html"), TextEncoding::CodePage);
+    writer.line("prima è");
+    writer.encodedLines("seconda \xE8 \r\nterza \r\n");
+    writer.line("quarta Ω");
+    writer.close();
+    EXPECT_EQ(folder.read("a.html"), QByteArray("prima \xE8\r\nseconda \xE8 \r\nterza \r\nquarta ?\r\n"));
+}

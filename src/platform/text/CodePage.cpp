@@ -43,15 +43,16 @@ int byteOf(char16_t character)
 
 QByteArray toWindows1252(const QString &text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *end = bytes.data();
     for (const QChar character : text) {
         const int byte = byteOf(character.unicode());
         if (byte >= 0)
-            bytes.append(char(byte));
+            *end++ = char(byte);
         else if (!character.isLowSurrogate()) // the pair is one character, and one question mark
-            bytes.append('?');
+            *end++ = '?';
     }
+    bytes.truncate(end - bytes.constData());
     return bytes;
 }
 

@@ -4,13 +4,15 @@
 #include "platform/text/CodePage.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 namespace {
 
 const QByteArray kByteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
+
+// The bytes go out in one piece, so that a buffer in between would only copy them.
+constexpr QIODevice::OpenMode kReplace = QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered;
 
 QByteArray contentOf(const QString &path)
 {
@@ -51,8 +53,9 @@ TextWriter::TextWriter(const QString &path, TextEncoding encoding, Mode mode)
     : m_path(path), m_encoding(encoding), m_mode(mode)
 {
     checkWritable(path);
-    if (mode == Mode::Output && encoding == TextEncoding::CodePage)
-        writeTo({}, false);
+    m_file.setFileName(path);
+    if (mode == Mode::Output && encoding == TextEncoding::CodePage && !m_file.open(kReplace))
+        throw Failure::usual(FailureNumber::PathAccess, path);
     m_open = true;
 }
 
@@ -70,9 +73,10 @@ void TextWriter::line(const QString &text)
     m_text += text + QStringLiteral("\r\n");
 }
 
-void TextWriter::text(const QString &lines)
+void TextWriter::encodedLines(const QByteArray &lines)
 {
-    m_text += lines;
+    m_encodedLines += toWindows1252(m_text) + lines;
+    m_text.clear();
 }
 
 void TextWriter::close()
@@ -83,27 +87,32 @@ void TextWriter::close()
     if (m_mode == Mode::Append)
         append();
     else if (m_encoding == TextEncoding::CodePage)
-        writeTo(encoded(), false);
+        write(encoded());
     else
         replaceFile(encoded());
 }
 
 QByteArray TextWriter::encoded() const
 {
-    if (m_encoding == TextEncoding::CodePage || fitsWindows1252(m_text))
+    if (m_encoding == TextEncoding::CodePage)
+        return m_text.isEmpty() ? m_encodedLines : m_encodedLines + toWindows1252(m_text);
+    if (fitsWindows1252(m_text))
         return toWindows1252(m_text);
     return kByteOrderMark + m_text.toUtf8();
 }
 
-void TextWriter::append() const
+void TextWriter::append()
 {
     const QByteArray old = QFileInfo::exists(m_path) ? contentOf(m_path) : QByteArray();
-    if (m_encoding == TextEncoding::CodePage || (!old.startsWith(kByteOrderMark) && fitsWindows1252(m_text)))
-        writeTo(toWindows1252(m_text), true);
-    else if (old.startsWith(kByteOrderMark))
-        writeTo(m_text.toUtf8(), true);
-    else
+    const bool inCodePage =
+        m_encoding == TextEncoding::CodePage || (!old.startsWith(kByteOrderMark) && fitsWindows1252(m_text));
+    if (!inCodePage && !old.startsWith(kByteOrderMark)) {
         replaceFile(kByteOrderMark + (decoded(old) + m_text).toUtf8());
+        return;
+    }
+    if (!m_file.open(QIODevice::Append))
+        throw Failure::usual(FailureNumber::PathAccess, m_path);
+    write(inCodePage ? toWindows1252(m_text) : m_text.toUtf8());
 }
 
 void TextWriter::replaceFile(const QByteArray &bytes) const
@@ -117,14 +126,11 @@ void TextWriter::replaceFile(const QByteArray &bytes) const
         throw notWhole(m_path);
 }
 
-void TextWriter::writeTo(const QByteArray &bytes, bool append) const
+void TextWriter::write(const QByteArray &bytes)
 {
-    QFile file(m_path);
-    const QIODevice::OpenMode how = append ? QIODevice::Append : QIODevice::WriteOnly | QIODevice::Truncate;
-    if (!file.open(how))
-        throw Failure::usual(FailureNumber::PathAccess, m_path);
-    if (file.write(bytes) != bytes.size() || !file.flush())
+    if (m_file.write(bytes) != bytes.size() || !m_file.flush())
         throw notWhole(m_path);
+    m_file.close();
 }
 
 TextReader::TextReader(const QString &path) : m_path(path)

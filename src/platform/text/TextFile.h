@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QString>
 #include <QStringList>
 
@@ -30,20 +31,23 @@ public:
     TextWriter(const TextWriter &) = delete;
     TextWriter &operator=(const TextWriter &) = delete;
 
-    void line(const QString &text);  // and CR LF
-    void text(const QString &lines); // as it stands, line ends and all
-    void close();                    // throws Failure(PathAccess) where the disk is full; a second close does nothing
+    void line(const QString &text); // and CR LF
+    // Into a code page file: lines that are in the code page already, line ends and all.
+    void encodedLines(const QByteArray &lines);
+    void close(); // throws Failure(PathAccess) where the disk is full; a second close does nothing
 
 private:
     QByteArray encoded() const;
     void replaceFile(const QByteArray &bytes) const;
-    void writeTo(const QByteArray &bytes, bool append) const;
-    void append() const;
+    void write(const QByteArray &bytes); // to the open file
+    void append();
 
     QString m_path;
+    QFile m_file; // open from the start where it is emptied at the start
     TextEncoding m_encoding;
     Mode m_mode;
     QString m_text;
+    QByteArray m_encodedLines; // stand before m_text
     bool m_open = false;
 };
 
