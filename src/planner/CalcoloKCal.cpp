@@ -1,11 +1,9 @@
 #include "planner/CalcoloKCal.h"
 
+#include "core/Indirizzi.h"
 #include "platform/text/Numbers.h"
 
 namespace {
-
-// A public page that works out the same need; shown where no page of the household's own is wanted.
-const QString kPaginaPubblica = QStringLiteral("https://www.calculator.net/calorie-calculator.html");
 
 double numero(const QString &casella, const QString &testo)
 {
@@ -50,5 +48,5 @@ void ConsultaCalcoloHtml(ModNetServer &modulo)
 {
     const ProgramFolder &folder = modulo.mondo.folder;
     const bool propria = folder.fileExists("\\INI\\Calorie.ini");
-    modulo.mondo.programmi.start(ProgramKind::Page, propria ? folder.resolve("\\HTML\\Calorie.html") : kPaginaPubblica);
+    modulo.mondo.programmi.start(ProgramKind::Page, propria ? folder.resolve("\\HTML\\Calorie.html") : kPaginaCalorie);
 }
