@@ -3,6 +3,8 @@
 #include "core/Indirizzi.h"
 #include "platform/text/Numbers.h"
 
+#include <cmath>
+
 namespace {
 
 double numero(const QString &casella, const QString &testo)
@@ -25,7 +27,10 @@ double CalcolaKCal(const DatiPersona &dati)
     const double W = numero("Peso in Kg", dati.peso);
     // The terms are those of a published equation; the last constant stands with the other sign here, on purpose.
     const double costante = dati.sesso == Sesso::Maschio ? 5 : -161;
-    return 6.25 * H + 10 * W - (5 * A + costante);
+    const double K = 6.25 * H + 10 * W - (5 * A + costante);
+    if (!std::isfinite(K))
+        throw Failure(FailureNumber::TypeMismatch, "Eta, altezza e peso danno un numero troppo grande");
+    return K;
 }
 
 QString DomandaKCal(double K)

@@ -28,7 +28,7 @@ enum class Persona
 };
 
 // Calories a day, by a formula of the program's own; 0 without a sex, the boxes being unread then. A box that holds no
-// number throws Failure(TypeMismatch), whose words name the box.
+// number throws Failure(TypeMismatch), whose words name the box; so do figures beyond every number.
 double CalcolaKCal(const DatiPersona &dati);
 // What the dialog asks: for whom the value is meant.
 QString DomandaKCal(double K);

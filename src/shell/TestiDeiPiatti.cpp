@@ -58,7 +58,7 @@ public:
     {
         ++m_numero;
         riga.replace(u'\'', u' ');
-        if (riga == kSeparatore)
+        if (SenzaBlanchi(riga) == kSeparatore) // an editor may leave blanks behind
             m_seconda = true;
         else if (SenzaBlanchi(riga).isEmpty())
             leggiVuota();
@@ -137,8 +137,9 @@ void AggiungiPrima(Recordset &alimenti, const RigaAlimento &riga, const QString 
 
 void AggiornaSeconda(ModNetServer &modulo, const RigaAlimento &riga)
 {
+    const QString KcNominale2 = NumeroPerIstruzione(NumeroDaTesto(modulo.KcalSecondaPersona));
     modulo.dati().Execute("UPDATE Alimenti SET Alimenti.quantita2 = '" + riga.quantita + "', Alimenti.KcNominale2 = " +
-                          modulo.KcalSecondaPersona + " WHERE (((trim(Alimenti.Piatto))='" + SenzaBlanchi(riga.Piatto) +
+                          KcNominale2 + " WHERE (((trim(Alimenti.Piatto))='" + SenzaBlanchi(riga.Piatto) +
                           "') AND ((trim(Alimenti.alimento))='" + SenzaBlanchi(riga.alimento) + "'));");
 }
 

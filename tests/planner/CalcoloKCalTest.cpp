@@ -41,6 +41,12 @@ TEST_F(CalcoloKCalTest, ABoxThatHoldsNoNumberIsNamed)
         EXPECT_EQ(wordsOf([&each] { CalcolaKCal(each.first); }), QString(each.second));
 }
 
+TEST_F(CalcoloKCalTest, FiguresBeyondEveryNumberAreRefused)
+{
+    EXPECT_EQ(wordsOf([] { CalcolaKCal({Sesso::Maschio, "40", "1E308", "70"}); }),
+              "Eta, altezza e peso danno un numero troppo grande");
+}
+
 TEST_F(CalcoloKCalTest, TheQuestionHoldsTheFigureWithADecimalComma)
 {
     EXPECT_EQ(DomandaKCal(1557.5), "A chi devo inserire il valore di '1557,5' KCal?");

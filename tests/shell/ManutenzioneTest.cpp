@@ -162,6 +162,21 @@ TEST_F(ManutenzioneTest, TheImportReadsTheFoodsOfBothBlocks)
     EXPECT_EQ(world.dialoghi.boxes(), QStringList("MsgBox 0 \"\" terminato"));
 }
 
+TEST_F(ManutenzioneTest, TargetsWithADecimalCommaOrThousandsReachBothPersonsRows)
+{
+    const QString text =
+        "\r\nPasta\r\n\r\n- Spaghetti (80 gr.)\r\n" + kStars + " \r\n\r\nPasta\r\n\r\n- Spaghetti (100 gr.)\r\n";
+    for (const auto &[first, second, row] :
+         {std::tuple("1557,5", "1723,5", "1557,5 | (100 gr.) | 1723,5"), {"1.100", "1.500", "1100 | (100 gr.) | 1500"}}) {
+        writeTexts(text);
+        world.modulo.KcalPrimaPersona = first;
+        world.modulo.KcalSecondaPersona = second;
+        ImportaTesti(world.modulo);
+        EXPECT_EQ(rowsOf(dati, "Select * from Alimenti"),
+                  QStringList(QString("Pasta |  Spaghetti  | (80 gr.) | ") + row));
+    }
+}
+
 TEST_F(ManutenzioneTest, AnEmptyLineBehindAFoodEndsItsDish)
 {
     writeTexts("Pasta\r\n- Sale (1 gr.)\r\n\r\n- Olio (5 gr.)\r\nRiso\r\n\r\n\r\n- Burro (5 gr.)\r\n");
