@@ -91,7 +91,7 @@ std::optional<QString> ClassificazionePiatto(Connection &dati, const QString &pi
 
 bool QuantitaValida(ModNetServer &modulo, const QString &quantita, const QString &persona)
 {
-    if (Val(quantita.trimmed()) != 0)
+    if (Val(quantita.trimmed().replace(',', '.')) != 0)
         return true;
     modulo.mondo.dialoghi.MsgBox("Quantità per " + persona + " non puo essere vuota o essere impostato a ZERO",
                                  MsgFlags::Critical, "Inserisci Quantita");

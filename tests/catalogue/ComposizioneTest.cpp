@@ -65,7 +65,7 @@ TEST_F(ComposizioneTest, APortionOfBlanksOrZeroIsRefusedWithThePersonsName)
 {
     for (const char *bad : {"", "   ", "0", " 0 ", "0.0", "tanto", "-"})
         EXPECT_FALSE(QuantitaValida(world.modulo, bad, "Ondira")) << bad;
-    for (const char *good : {"1", " 20 ", "0.5", "12,5", "-3", "5 g"})
+    for (const char *good : {"1", " 20 ", "0.5", "0,5", "12,5", "-3", "5 g"})
         EXPECT_TRUE(QuantitaValida(world.modulo, good, "Tesmo")) << good;
     EXPECT_EQ(world.dialoghi.boxes().size(), 7);
     EXPECT_EQ(world.dialoghi.boxes().first(),

@@ -96,6 +96,34 @@ TEST_F(FrmMenuTest, AHalfTypedDishShowsNoFoodsAndKeepsTheLineOfTheFormerOne)
     EXPECT_EQ(field(3), "");
 }
 
+TEST_F(FrmMenuTest, WhereTheFirstDishHasAnApostropheThatIsToldAndTheOthersCanBeChosen)
+{
+    insertFoods(dati, {"'''Nduja', 'Nduja', 500, 1, 5, 1, 5"});
+    show();
+    EXPECT_EQ(failures.size(), 1);
+    dishes().setText("Pasta");
+    EXPECT_EQ(rows("TDBGrid1").size(), 2);
+    EXPECT_EQ(failures.size(), 1);
+}
+
+TEST_F(FrmMenuTest, AnApostropheTypedWhileAFoodIsPendingLeavesNoRowToSave)
+{
+    show();
+    startFood("Olio /Kcal 900", "10", "20");
+    dishes().setText("L'");
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_EQ(text("Label1"), kIdle);
+}
+
+TEST_F(FrmMenuTest, AFoodThatIsNotOnTheListLeavesTheChosenOneAndTheBarSaysSo)
+{
+    show();
+    startFood("Olio /Kcal 900", "10", "20");
+    foods().setEditText("Avocado");
+    EXPECT_EQ(text("lblStatus"), "Scegli dall'elenco: l'alimento resta \"Olio\"");
+    EXPECT_EQ(field(3), "Olio ");
+}
+
 TEST_F(FrmMenuTest, AnEmptiedDishFallsBackToTheFirstOfAllFoodsByName)
 {
     show();

@@ -15,7 +15,7 @@ protected:
     {
         insertDishes(dati, {"'Pasta', 300, 400, 'Menu', 'Pasta - Minestra'",
                             "'Riso', 310, 420, 'Menu', 'Pasta - Minestra'", "'Orzo', 290, 380, 'Menu', 'Cereali'",
-                            "'Acqua', 0, 0, 'Menu', 'Bevanda'", "'Zuppa', 200, 300, 'Menu', 'Piatto unico'"});
+                            "'Acqua', 0, 0, 'Menu', 'Bevanda'", "'Zuppa', 200, 300, 'Menu', 'Piatto Unico'"});
         insertFoods(dati, {"'Pasta', 'Pasta', 350, 70, 245, 90, 315", "'Pasta', 'Olio', 900, 10, 90, 15, 135",
                            "'Riso', 'Riso', 330, 70, 231, 100, 330", "'Zuppa', 'Ceci', 320, 50, 160, 80, 256"});
         insertPairs(dati, {"'Pasta', 'Riso'", "'Riso', 'Pasta'", "'Pasta', 'Zuppa'", "'Zuppa', 'Pasta'",
@@ -79,6 +79,17 @@ TEST_F(SostitutiTest, FromTheDishEditorAfterwardsAnyDishCanBeChosen)
     EXPECT_EQ(dishes().itemText(0), "Acqua");
     EXPECT_EQ(dishes().count(), 5);
     EXPECT_EQ(rows("TDBGrid1"), QStringList("Pasta | 300 | 400 | Pasta - Minestra | Menu"));
+}
+
+TEST_F(SostitutiTest, WhereTheFirstDishHasAnApostropheThatIsToldAndTheOthersCanBeChosen)
+{
+    insertDishes(dati, {"'''Nduja', 0, 0, 'Menu', 'Carne'"});
+    show();
+    EXPECT_EQ(failures.size(), 1);
+    dishes().setText("Pasta");
+    emit dishes().picked();
+    EXPECT_EQ(text("Text1"), "Pasta");
+    EXPECT_EQ(failures.size(), 1);
 }
 
 TEST_F(SostitutiTest, LoadedWithoutADishItStartsFromTheFirst)

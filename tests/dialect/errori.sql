@@ -3,7 +3,7 @@
 
 -- [apostrophe] a name with an apostrophe breaks its statement
 Select * from Piatti where Piatto = 'Pesce all'acqua'
-!! Errore di sintassi nell'istruzione: manca un apice
+!! Errore di sintassi nell'istruzione: un nome contiene un apostrofo ('): scrivere ’ al suo posto
 
 -- [quotes] double quotes left open
 SELECT * FROM Piatti WHERE Piatto = "Pasta

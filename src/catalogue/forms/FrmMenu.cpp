@@ -116,8 +116,11 @@ void FrmMenu::Form_Load()
     for (int item = 0; item < m_ui->DataCombo1->count(); ++item)
         m_ui->Combo1->addItem(m_ui->DataCombo1->itemText(item));
     mostraPiatto(m_ui->DataCombo1->itemText(0));
-    Forma();
-    scriviPosizione("RecordSet Vuoto!!");
+    // A name that breaks the statement is told, and the form opens all the same: another dish can be chosen.
+    runHandler([this] {
+        Forma();
+        scriviPosizione("RecordSet Vuoto!!");
+    });
 }
 
 void FrmMenu::elencaPiatti()
@@ -143,6 +146,8 @@ void FrmMenu::DataCombo1_Change()
 void FrmMenu::Forma()
 {
     const QScopedValueRollback navigating(m_navigando, true);
+    m_righe->Close();
+    setInAttesa(false); // a row that was pending has gone with the set
     apriRighe();
     if (m_ui->DataCombo1->text().isEmpty() && !m_righe->Eof()) {
         mostraPiatto(m_righe->value("Piatto").text());
@@ -153,7 +158,6 @@ void FrmMenu::Forma()
         scriviClassificazione();
     setPersonCaptions();
     bindFields();
-    setInAttesa(false); // a row that was pending has gone with the former set
 }
 
 void FrmMenu::apriRighe()
@@ -267,8 +271,10 @@ void FrmMenu::Combo2_Click()
     if (!m_righe->isOpen() || !m_righe->isAdding())
         return;
     const std::optional<AlimentoScelto> food = ScegliAlimento(m_ui->Combo2->currentText());
-    if (!food)
+    if (!food) {
+        m_ui->lblStatus->setText("Scegli dall'elenco: l'alimento resta \"" + TxtFields(3)->text().trimmed() + "\"");
         return;
+    }
     TxtFields(3)->setText(food->nome);
     TxtFields(5)->setText(food->kcal);
 }

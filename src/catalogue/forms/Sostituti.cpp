@@ -4,6 +4,7 @@
 #include "catalogue/forms/BarraNavigazione.h"
 #include "catalogue/forms/Icone.h"
 #include "catalogue/Navigazione.h"
+#include "core/Vocabulary.h"
 #include "platform/ui/Tema.h"
 #include "ui_Sostituti.h"
 
@@ -39,7 +40,7 @@ Sostituti::Sostituti(FormHost &host, FormRegistry &, ModNetServer &modulo)
     m_ui->TDBGrid1->setColumns({{"sostituisci", "Sostituisci con piatto "},
                                 {"KCalOndira", "KCal "},
                                 {"KCalTesmo", "KCal "},
-                                {"Categoria", "Categoria"},
+                                {"Categoria", "Categoria", CellEdit::ReadOnly, CategorieGriglia()},
                                 {"Tipo", "Tipo"}});
     m_ui->TDBGrid2->setColumns(
         {{"Alimento", "Alimento"}, {"KC100gr", "KCal per 100 g."}, {"totale1", "Totale "}, {"totale2", "Totale "}});
@@ -88,7 +89,7 @@ void Sostituti::Form_Load()
     QString dish = m_modulo.PiattoSostituto;
     if (dish.isEmpty() && !m_piatti->Eof())
         dish = m_piatti->value("Piatto").text();
-    applica(dish);
+    runHandler([&] { applica(dish); }); // a name that breaks a statement is told, and the window opens all the same
 }
 
 void Sostituti::preparaPerGiorno(const QString &piatto, const QString &pasto)

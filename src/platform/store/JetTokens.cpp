@@ -197,7 +197,8 @@ private:
             }
             ++m_at;
         }
-        fail(quote == u'\'' ? QStringLiteral("manca un apice") : QStringLiteral("mancano le virgolette"));
+        fail(quote == u'\'' ? QStringLiteral("un nome contiene un apostrofo ('): scrivere ’ al suo posto")
+                            : QStringLiteral("mancano le virgolette"));
     }
 
     QStringView inside(char16_t close, const QString &whereOpen)

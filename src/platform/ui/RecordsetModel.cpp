@@ -118,6 +118,15 @@ bool RecordsetModel::isShown(int row, int column) const
            m_fields[std::size_t(column)] >= 0;
 }
 
+QString RecordsetModel::shownText(int row, int column) const
+{
+    const QString text = m_recordset->valueAt(row, m_fields[std::size_t(column)]).text();
+    for (const QString &entry : m_columns[std::size_t(column)].list)
+        if (entry.compare(text, Qt::CaseInsensitive) == 0)
+            return entry;
+    return text;
+}
+
 QVariant RecordsetModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || !isShown(index.row(), index.column()))
@@ -131,7 +140,7 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
     case Qt::EditRole:
         if (isYesNo(index.column()))
             return {};
-        return m_recordset->valueAt(index.row(), m_fields[std::size_t(index.column())]).text();
+        return shownText(index.row(), index.column());
     case Qt::CheckStateRole:
         if (!isYesNo(index.column()))
             return {};

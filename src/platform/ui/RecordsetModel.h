@@ -22,7 +22,9 @@ struct GridColumn
     QString field;
     QString caption;
     CellEdit edit = CellEdit::ReadOnly;
-    QStringList list = {}; // what may be picked; a value outside the list shows all the same
+    // What may be picked. A value that is on the list but for the case of its letters shows as the list spells it; one
+    // outside the list shows all the same.
+    QStringList list = {};
 };
 
 class RecordsetModel : public QAbstractTableModel
@@ -58,6 +60,7 @@ public:
 private:
     void reset();
     bool isShown(int row, int column) const;
+    QString shownText(int row, int column) const;
     bool isEditable(int column) const;
     const FieldInfo *fieldOf(int column) const; // null where the record set has none of that name
 
