@@ -68,6 +68,15 @@ protected:
     std::shared_ptr<Recordset> rows;
 };
 
+TEST_F(DataGridTest, AGridThatMustScrollAnywayKeepsItsTextsReadable)
+{
+    const QString food = "Farina di grano tenero integrale";
+    insertRows(connection, "Categorie", "ID, Alimento", {"1, '" + food + "'"});
+    grid.setColumns({});
+    grid.setDataSource(open("Select * from Categorie"));
+    EXPECT_GE(grid.columnWidth(3), grid.fontMetrics().horizontalAdvance(food));
+}
+
 TEST_F(DataGridTest, ShowsItsColumnsWithNumbersAtTheRight)
 {
     EXPECT_EQ(grid.model()->rowCount(), 3);

@@ -279,7 +279,10 @@ void DataGrid::fillWidth()
     if (m_private->sizedByUser || texts.empty())
         return;
     const QScopedValueRollback fitting(m_private->fitting, true);
-    if (left < 0)
+    int spare = 0; // what the texts could give; where that is too little, the grid scrolls and they keep their width
+    for (const int column : texts)
+        spare += std::max(columnWidth(column) - kNarrowest, 0);
+    if (left < 0 && spare >= -left)
         squeezeTexts(texts, -left);
     const int count = int(texts.size());
     for (int i = 0; left > 0 && i < count; ++i)
