@@ -3,7 +3,7 @@
 # Reads every #include below ROOT/src and ROOT/tools and names those that go against the house's rules:
 #   - a subsystem includes itself and those before it in the list, never one behind it;
 #   - logic includes neither a form nor anything of Qt but its core (whose headers lie in QTCORE);
-#   - the engine's header is seen by src/platform/store alone.
+#   - the engine's header is seen by src/platform/store alone, that of libmdb by the archive tool.
 # Exit status 1 where there is one.
 set -euo pipefail
 cd "$1"
@@ -29,6 +29,9 @@ while IFS=: read -r file line text; do
     header=${BASH_REMATCH[1]}
     if [ "${header##*/}" = sqlite3.h ] && [[ $file != src/platform/store/* ]]; then
         fault "$file" "$line" "only src/platform/store may include $header"
+    fi
+    if [ "${header##*/}" = mdbtools.h ] && [[ $file != tools/cibra-archivio/* ]]; then
+        fault "$file" "$line" "only tools/cibra-archivio may include $header"
     fi
     owner=${file#src/}
     owner=${owner%%/*}

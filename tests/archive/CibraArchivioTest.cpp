@@ -32,6 +32,11 @@ Result archivio(const QStringList &arguments, const QByteArray &input = {})
             QString::fromUtf8(process.readAllStandardError())};
 }
 
+QString sample(const char *name)
+{
+    return QStringLiteral(CIBRA_SOURCE_DIR "/tests/archive/mdb/") + name;
+}
+
 class CibraArchivioTest : public ::testing::Test
 {
 protected:
@@ -46,9 +51,10 @@ TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
     const Result help = archivio({"--help"});
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.err, "");
-    for (const char *command : {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "verifica FILE",
-                                "proteggi FILE", "manutenzione COMANDO FILE", "    esporta ", "    importa ",
-                                "    abbina ", "    gruppi ", "    sostituti ", "    rapporto ", "    calorie "})
+    for (const char *command :
+         {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "importa VECCHIO.mdb NUOVO",
+          "verifica FILE", "verifica --ripara FILE", "proteggi FILE", "manutenzione COMANDO FILE", "    esporta ",
+          "    importa ", "    abbina ", "    gruppi ", "    sostituti ", "    rapporto ", "    calorie "})
         EXPECT_TRUE(help.out.contains(command)) << command;
 }
 
@@ -57,7 +63,9 @@ TEST_F(CibraArchivioTest, AWrongCommandLineIsStatusTwoAndShowsTheHelp)
     const QString help = archivio({"--help"}).out;
     for (const QStringList &arguments :
          {QStringList(), QStringList("nuovo"), QStringList({"nuovo", ""}), QStringList({"nuovo", path, path}),
-          QStringList({"cancella", path}), QStringList({"manutenzione", "cancella", path})}) {
+          QStringList({"cancella", path}), QStringList({"manutenzione", "cancella", path}),
+          QStringList({"importa", path}), QStringList({"importa", path, ""}),
+          QStringList({"verifica", "--mangia", path})}) {
         const Result wrong = archivio(arguments);
         EXPECT_EQ(wrong.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(wrong.err, help);
@@ -128,6 +136,55 @@ TEST_F(CibraArchivioTest, AProtectedArchiveIsCheckedWithThePasswordFromTheInput)
     }
     Connection archive;
     EXPECT_TRUE(archive.Open(path, "perché no?"));
+}
+
+TEST_F(CibraArchivioTest, AnOldFileIsImportedWithAReport)
+{
+    const Result done = archivio({"importa", sample("netserver.mdb"), path});
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.err, "");
+    EXPECT_EQ(done.out, "Formato Jet 4, tabelle 1\nMessaggi: righe lette 3, scritte 3\n");
+    EXPECT_EQ(archivio({"verifica", path}).status, 0);
+}
+
+TEST_F(CibraArchivioTest, AnImportThatFailsLeavesNothing)
+{
+    const Result refused = archivio({"importa", sample("rotto.mdb"), path});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_EQ(refused.err, QString("cibra-archivio: Il file \"%1\" è tronco: ne manca la fine. Niente è stato "
+                                   "importato\n")
+                               .arg(sample("rotto.mdb")));
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(CibraArchivioTest, AProtectedOldFileIsImportedWithThePasswordFromTheInput)
+{
+    const QString old = sample("password.mdb");
+    for (const char *input : {"", "\n"}) {
+        const Result refused = archivio({"importa", old, path}, input);
+        EXPECT_EQ(refused.status, 3);
+        EXPECT_EQ(refused.err, QString("cibra-archivio: Il file \"%1\" è protetto da una password\n").arg(old));
+    }
+    const Result wrong = archivio({"importa", old, path}, "altra\n");
+    EXPECT_EQ(wrong.status, 3);
+    EXPECT_EQ(wrong.err, QString("cibra-archivio: La password del file \"%1\" non è quella giusta\n").arg(old));
+    EXPECT_EQ(files(), QStringList());
+
+    const Result done = archivio({"importa", old, path}, "segreta\n");
+    EXPECT_EQ(done.status, 0) << done.err.toStdString();
+    EXPECT_TRUE(done.out.endsWith("\nL'archivio nuovo si apre con la stessa password del vecchio\n"));
+    EXPECT_EQ(archivio({"verifica", path}, "segreta\n").status, 0);
+}
+
+TEST_F(CibraArchivioTest, ARepairOfASoundArchiveSaysThatItIsInOrder)
+{
+    creaArchivioNuovo(path);
+    const QByteArray before = folder.read("famiglia.db");
+    const Result done = archivio({"verifica", "--ripara", path});
+    EXPECT_EQ(done.status, 0);
+    EXPECT_EQ(done.out, QString("L'archivio \"%1\" è in ordine.\n").arg(path));
+    EXPECT_TRUE(folder.read("famiglia.db") == before);
 }
 
 TEST_F(CibraArchivioTest, TwoPasswordsThatDifferProtectNothing)

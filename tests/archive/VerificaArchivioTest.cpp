@@ -1,6 +1,7 @@
 #include "VerificaArchivio.h"
 
 #include "CreaArchivio.h"
+#include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/Connection.h"
 #include "support/Printers.h"
@@ -11,9 +12,10 @@
 
 #include <QFile>
 
+#include <sqlcipher/sqlite3.h>
+
 namespace {
 
-using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
 class VerificaArchivioTest : public ::testing::Test
@@ -54,7 +56,7 @@ TEST_F(VerificaArchivioTest, ASystemArchiveIsInOrderWithItsOneTable)
 
 TEST_F(VerificaArchivioTest, AMissingFileIsTold)
 {
-    EXPECT_EQ(verifica().esito, Verifica::Esito::Guasto);
+    EXPECT_EQ(verifica().esito, Verifica::Esito::Estraneo);
     EXPECT_EQ(verifica().guasti, QStringList(QString("Il file \"%1\" non c'è").arg(path)));
 }
 
@@ -104,9 +106,114 @@ TEST_F(VerificaArchivioTest, TablesAndColumnsBesideOursAreNoFault)
 TEST_F(VerificaArchivioTest, AFileThatIsNoArchiveIsTold)
 {
     folder.write("prova.db", QByteArray("Questo non è un archivio. ").repeated(100));
-    EXPECT_EQ(verifica().esito, Verifica::Esito::Guasto);
-    ASSERT_EQ(verifica().guasti.size(), 1);
-    EXPECT_THAT(verifica().guasti.first().toStdString(), HasSubstr("L'archivio non si apre: "));
+    EXPECT_EQ(verifica().esito, Verifica::Esito::Estraneo);
+    EXPECT_EQ(verifica().guasti, QStringList("Il file non è un archivio"));
+}
+
+TEST_F(VerificaArchivioTest, AForeignFileIsToldWhateverItsSize)
+{
+    const std::pair<QByteArray, const char *> files[] = {
+        {"", "Il file è vuoto, non è un archivio"},
+        {QByteArray("abc"), "Il file non è un archivio"},
+        {QByteArray("righe di testo\n").repeated(1024), "Il file non è un archivio"},
+        {QByteArray(8192, '\0'),
+         "Il file comincia con una pagina di zeri: se era un archivio, il suo inizio è perduto"},
+    };
+    for (const auto &[bytes, words] : files) {
+        folder.write("prova.db", bytes);
+        EXPECT_EQ(verifica().esito, Verifica::Esito::Estraneo);
+        EXPECT_EQ(verifica().guasti, QStringList(words));
+    }
+}
+
+TEST_F(VerificaArchivioTest, AnArchiveOfAnotherProgramIsForeign)
+{
+    makeArchive(path, "CREATE TABLE Canzoni (Titolo TEXT);");
+    EXPECT_EQ(verifica().esito, Verifica::Esito::Estraneo);
+    EXPECT_EQ(verifica().guasti, QStringList("Il file non ha nessuna delle tabelle di questo programma"));
+}
+
+TEST_F(VerificaArchivioTest, AnArchiveCutShortIsDamagedAndNotForeign)
+{
+    creaArchivioEsempio(path, QDate(2025, 3, 1));
+    const QByteArray bytes = folder.read("prova.db");
+    for (const qsizetype length : {qsizetype(100), qsizetype(5000), bytes.size() / 2, bytes.size() - 4096}) {
+        folder.write("prova.db", bytes.left(length));
+        EXPECT_EQ(verifica().esito, Verifica::Esito::Danneggiato) << length;
+        EXPECT_FALSE(verifica().guasti.isEmpty()) << length;
+    }
+}
+
+TEST_F(VerificaArchivioTest, TheCheckLeavesTheFileAndItsJournalAsTheyAre)
+{
+    creaArchivioNuovo(path);
+    const QByteArray before = folder.read("prova.db");
+    ASSERT_EQ(int(before[18]), 1) << "a fresh archive keeps no write-ahead journal";
+    EXPECT_EQ(verifica().esito, Verifica::Esito::InOrdine);
+    EXPECT_TRUE(folder.read("prova.db") == before);
+    EXPECT_EQ(folder.entries(), QStringList("prova.db"));
+}
+
+// An archive whose table Menu has three rows, one of which its index does not know.
+class RiparaArchivioTest : public VerificaArchivioTest
+{
+protected:
+    void SetUp() override
+    {
+        creaArchivioNuovo(path);
+        const char *save = "CREATE TEMP TABLE Salvato AS SELECT * FROM sqlite_master WHERE name = 'MenuGiorno'";
+        sqlite3 *handle = nullptr;
+        ASSERT_EQ(sqlite3_open(qPrintable(path), &handle), SQLITE_OK);
+        for (const char *statement :
+             {"INSERT INTO Menu (DataMenu) VALUES ('2025-03-01'), ('2025-03-02')", save, "PRAGMA writable_schema = ON",
+              "DELETE FROM sqlite_master WHERE name = 'MenuGiorno'"})
+            ASSERT_EQ(sqlite3_exec(handle, statement, nullptr, nullptr, nullptr), SQLITE_OK) << statement;
+        sqlite3 *other = nullptr; // which knows of no index
+        ASSERT_EQ(sqlite3_open(qPrintable(path), &other), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(other, "INSERT INTO Menu (DataMenu) VALUES ('2025-03-03')", nullptr, nullptr, nullptr),
+                  SQLITE_OK);
+        sqlite3_close(other);
+        ASSERT_EQ(sqlite3_exec(handle, "INSERT INTO sqlite_master SELECT * FROM Salvato", nullptr, nullptr, nullptr),
+                  SQLITE_OK);
+        sqlite3_close(handle);
+    }
+};
+
+TEST_F(RiparaArchivioTest, ADamagedIndexIsToldFromOtherDamage)
+{
+    EXPECT_EQ(verifica().esito, Verifica::Esito::IndiciDaRiparare);
+    EXPECT_EQ(verifica().guasti, QStringList({"Il file è danneggiato: row 3 missing from index MenuGiorno",
+                                              "Il file è danneggiato: wrong # of entries in index MenuGiorno"}));
+}
+
+TEST_F(RiparaArchivioTest, TheIndexIsMadeAnewAndNoRowIsLost)
+{
+    riparaArchivio(path);
+    EXPECT_EQ(verifica().esito, Verifica::Esito::InOrdine);
+    EXPECT_EQ(folder.entries(), QStringList("prova.db"));
+    Connection archive;
+    ASSERT_TRUE(archive.Open(path));
+    EXPECT_EQ(rowsOf(archive, "SELECT DataMenu FROM Menu WHERE DataMenu >= #3/1/2025# ORDER BY DataMenu"),
+              QStringList({"01/03/2025", "02/03/2025", "03/03/2025"}));
+    EXPECT_EQ(valueOf(archive, "SELECT Count(*) FROM sqlite_master WHERE type = 'index'"), "2");
+}
+
+TEST_F(RiparaArchivioTest, AnArchiveInUseIsLeftAlone)
+{
+    folder.write("prova.db-shm", "");
+    const QByteArray before = folder.read("prova.db");
+    EXPECT_THROW(riparaArchivio(path), Failure);
+    EXPECT_TRUE(folder.read("prova.db") == before);
+}
+
+TEST_F(RiparaArchivioTest, MoreThanAnIndexIsNotMended)
+{
+    QByteArray bytes = folder.read("prova.db");
+    bytes = bytes.left(bytes.size() - 4096);
+    folder.write("prova.db", bytes);
+    EXPECT_THROW(riparaArchivio(path), Failure);
+    EXPECT_TRUE(folder.read("prova.db") == bytes);
+    EXPECT_EQ(folder.entries(), QStringList("prova.db"));
 }
 
 TEST_F(VerificaArchivioTest, AnMdbFileIsNotTakenForAProtectedArchive)
@@ -124,7 +231,7 @@ TEST_F(VerificaArchivioTest, DamagedPagesAreTold)
     // The kind of the last page, which holds rows of the catalogue; the first pages say what the file is.
     bytes[bytes.size() - kPage] = char(0x5A);
     folder.write("prova.db", bytes);
-    EXPECT_EQ(verifica().esito, Verifica::Esito::Guasto);
+    EXPECT_EQ(verifica().esito, Verifica::Esito::Danneggiato);
     ASSERT_FALSE(verifica().guasti.isEmpty());
     for (const QString &fault : verifica().guasti)
         EXPECT_THAT(fault.toStdString(), StartsWith("Il file è danneggiato: "));

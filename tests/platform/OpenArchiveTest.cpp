@@ -117,6 +117,13 @@ TEST_F(OpenArchiveTest, UnreadableBytesOfWholePagesCountAsEncrypted)
     EXPECT_EQ(openWith().outcome, OpenOutcome::PasswordRichiesta);
 }
 
+TEST_F(OpenArchiveTest, AnOldMdbFileIsNotTakenForAnEncryptedArchive)
+{
+    setBytes(QByteArray("\0\1\0\0Standard Jet DB\0", 20) + QByteArray(8192 - 20, 'x'));
+    expectRefused(openWith(), OpenOutcome::Errore, int(FailureNumber::Engine),
+                  u"Il file è un archivio .mdb, da importare prima di usarlo"_s);
+}
+
 TEST_F(OpenArchiveTest, ADamagedTableOfContentsIsAFailure)
 {
     makeArchive(path(), kScript);

@@ -1,5 +1,6 @@
 #include "ProteggiArchivio.h"
 
+#include "ArchivioInUso.h"
 #include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
@@ -59,13 +60,6 @@ void controllaCopia(Connection &original, const QString &path, const QString &pa
     for (const QString &table : names)
         if (righe(original, table) != righe(copy, table))
             throw rifiuto(QStringLiteral("La copia protetta non ha tutte le righe di \"%1\"").arg(table));
-}
-
-// Another program that has the archive open keeps its journal; what it wrote there would be lost with the original.
-void rifiutaInUso(const QString &path)
-{
-    if (QFileInfo(path + "-wal").size() > 0 || QFileInfo::exists(path + "-shm"))
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" è aperto da un altro programma").arg(path));
 }
 
 } // namespace

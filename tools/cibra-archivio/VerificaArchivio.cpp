@@ -1,17 +1,26 @@
 #include "VerificaArchivio.h"
 
+#include "ArchivioInUso.h"
 #include "CreaArchivio.h"
+#include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
+#include "TestataMdb.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
+#include <algorithm>
+
 namespace {
+
+constexpr qsizetype kInizio = 1024;  // the page of an encrypted archive
+constexpr int kFewestOfChance = 200; // of 1024 bytes drawn by chance about 251 values are unlike
 
 QString nomeTipo(ColumnType type)
 {
@@ -127,16 +136,63 @@ QStringList righeDi(const QStringList &told)
     return lines;
 }
 
-// A file of the Jet engine is of sizes that an encrypted archive has, too; its head tells it.
-bool diJet(const QString &path)
+// An encrypted archive looks like chance: each value of a byte occurs in its beginning, or nearly each.
+bool pareCifrato(const QByteArray &start)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(32).contains("Jet DB");
+    QSet<char> seen(start.begin(), start.end());
+    return start.size() == kInizio && seen.size() > kFewestOfChance;
 }
 
-Verifica guasto(const QString &words)
+// What a file that is no plain archive says of itself by its beginning and size; empty where it may be an encrypted
+// one.
+QString estraneo(const QString &path)
 {
-    return {Verifica::Esito::Guasto, {words}};
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray start = file.read(kInizio);
+    if (testataDiJet(start))
+        return QStringLiteral("Il file è un archivio .mdb, non un archivio di questo programma");
+    if (start.isEmpty())
+        return QStringLiteral("Il file è vuoto, non è un archivio");
+    if (start.startsWith("SQLite format 3") || (pareCifrato(start) && file.size() % kInizio == 0))
+        return {};
+    if (QByteArrayView(start).count('\0') == start.size())
+        return QStringLiteral("Il file comincia con una pagina di zeri: se era un archivio, il suo inizio è perduto");
+    return QStringLiteral("Il file non è un archivio");
+}
+
+Verifica esito(Verifica::Esito kind, const QStringList &words)
+{
+    return {kind, words};
+}
+
+QStringList danni(const QStringList &told)
+{
+    QStringList faults;
+    for (const QString &line : righeDi(told))
+        faults += QStringLiteral("Il file è danneggiato: %1").arg(line);
+    return faults;
+}
+
+// The engine's words for an index that does not fit its table.
+bool soloIndici(const QStringList &told)
+{
+    static const QRegularExpression ofIndex(
+        QStringLiteral("^(row \\d+ missing from index |wrong # of entries in index |non-unique entry in index )"));
+    const QStringList lines = righeDi(told);
+    return !lines.isEmpty() &&
+           std::all_of(lines.begin(), lines.end(), [](const QString &line) { return ofIndex.match(line).hasMatch(); });
+}
+
+Verifica verificaSchema(Connection &archive)
+{
+    const bool household = unaTabellaDi(archive, scriptSchema());
+    if (!household && !unaTabellaDi(archive, scriptSchemaSistema()))
+        return esito(Verifica::Esito::Estraneo,
+                     {QStringLiteral("Il file non ha nessuna delle tabelle di questo programma")});
+    const QStringList faults = guastiDelloSchema(archive, household ? scriptSchema() : scriptSchemaSistema());
+    return esito(faults.isEmpty() ? Verifica::Esito::InOrdine : Verifica::Esito::Incompleto, faults);
 }
 
 } // namespace
@@ -144,22 +200,44 @@ Verifica guasto(const QString &words)
 Verifica verificaArchivio(const QString &path, const QString &password)
 {
     if (!QFileInfo(path).isFile())
-        return guasto(QStringLiteral("Il file \"%1\" non c'è").arg(path));
-
-    if (diJet(path))
-        return guasto(QStringLiteral("Il file è un archivio .mdb, non un archivio di questo programma"));
+        return esito(Verifica::Esito::Estraneo, {QStringLiteral("Il file \"%1\" non c'è").arg(path)});
+    if (const QString words = estraneo(path); !words.isEmpty())
+        return esito(Verifica::Esito::Estraneo, {words});
 
     Connection archive;
-    const OpenResult opened = archive.Open(path, password);
+    const OpenResult opened = archive.OpenForInspection(path, password);
     if (opened.outcome == OpenOutcome::PasswordRichiesta)
-        return {Verifica::Esito::PasswordRichiesta, {opened.words}};
+        return esito(Verifica::Esito::PasswordRichiesta, {opened.words});
     if (!opened)
-        return guasto(QStringLiteral("L'archivio non si apre: %1").arg(opened.words));
+        return esito(Verifica::Esito::Danneggiato, {QStringLiteral("L'archivio non si apre: %1").arg(opened.words)});
 
-    QStringList faults;
-    for (const QString &line : righeDi(integrityCheck(path, password)))
-        faults += QStringLiteral("Il file è danneggiato: %1").arg(line);
-    const bool system = unaTabellaDi(archive, scriptSchemaSistema()) && !unaTabellaDi(archive, scriptSchema());
-    faults += guastiDelloSchema(archive, system ? scriptSchemaSistema() : scriptSchema());
-    return {faults.isEmpty() ? Verifica::Esito::InOrdine : Verifica::Esito::Guasto, faults};
+    const QStringList told = integrityCheck(path, password);
+    if (soloIndici(told))
+        return esito(Verifica::Esito::IndiciDaRiparare, danni(told));
+    if (!righeDi(told).isEmpty())
+        return esito(Verifica::Esito::Danneggiato, danni(told));
+    return verificaSchema(archive);
+}
+
+void riparaArchivio(const QString &told, const QString &password)
+{
+    // The file itself, so that a link to it stays a link.
+    const QString path = QFileInfo(told).canonicalFilePath();
+    const Verifica before = verificaArchivio(path.isEmpty() ? told : path, password);
+    if (before.esito == Verifica::Esito::InOrdine)
+        return;
+    if (before.esito != Verifica::Esito::IndiciDaRiparare)
+        throw Failure(FailureNumber::Engine, before.guasti.first());
+
+    const FileProvvisorio copy(path);
+    copyEncrypted(path, copy.path(), password, password);
+    rebuildIndexes(copy.path(), password);
+    const Verifica after = verificaArchivio(copy.path(), password);
+    if (!after.guasti.isEmpty() && after.esito != Verifica::Esito::Incompleto)
+        throw Failure(FailureNumber::Engine, after.guasti.first());
+    if (rowCounts(path, password) != rowCounts(copy.path(), password))
+        throw Failure(FailureNumber::Engine, QStringLiteral("La copia riparata non ha tutte le righe"));
+    rifiutaInUso(path);
+    QFile::setPermissions(copy.path(), QFileInfo(path).permissions());
+    copy.sostituisciOriginale();
 }

@@ -1,7 +1,9 @@
-// cibra-archivio: makes, checks and protects archives from the command line.
+// cibra-archivio: makes, imports, checks and protects archives from the command line.
 #include "ChiediPassword.h"
 #include "ComandoManutenzione.h"
 #include "CreaArchivio.h"
+#include "ImportaArchivio.h"
+#include "LeggiMdb.h"
 #include "platform/Failure.h"
 #include "PreparaCartella.h"
 #include "ProteggiArchivio.h"
@@ -18,15 +20,25 @@ namespace {
 constexpr int kBene = 0;
 constexpr int kGuasto = 1; // the command could not be done, or the archive has faults
 constexpr int kUsoErrato = 2;
+constexpr int kPassword = 3; // the file to be imported has a password that lacks or is another one
+
+const QString kLettura = QStringLiteral("leggi-mdb"); // the reading process of importa, nothing for people
 
 constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
+     cibra-archivio importa VECCHIO.mdb NUOVO
+     cibra-archivio verifica --ripara FILE
 
   nuovo FILE        crea un archivio vuoto, con tutte le tabelle
   esempio FILE      crea un archivio con il catalogo di esempio
   sistema FILE      crea l'archivio di sistema (NetServer.Mdb), senza messaggi
   prepara CARTELLA  prepara una cartella del programma: l'archivio di esempio,
                     NetServer.Mdb e INI\GestioneRete.INI; quello che c'è resta
+  importa VECCHIO.mdb NUOVO
+                    fa un archivio nuovo da un vecchio file .mdb, che resta
+                    com'è; dice che cosa ha letto e scritto
   verifica FILE     controlla formato, tabelle, colonne e integrità
+  verifica --ripara FILE
+                    se sono rovinati solo gli indici, li rifà
   proteggi FILE     dà una password all'archivio (chiesta due volte)
 
   manutenzione COMANDO FILE
@@ -40,11 +52,12 @@ constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
     calorie         copia in Piatti le calorie di newPiatti
 Piatti.txt sta in prova/TestiCibra della cartella del programma.
 
-Nessun comando sovrascrive un file che c'è già; proteggi sostituisce l'archivio
-solo quando la copia protetta è controllata. Una password si scrive al
-terminale, oppure arriva come riga dell'ingresso.
+Nessun comando sovrascrive un file che c'è già; proteggi e verifica --ripara
+sostituiscono l'archivio solo quando la copia nuova è controllata. Una password
+si scrive al terminale, oppure arriva come riga dell'ingresso.
 
-Stato di uscita: 0 fatto, 1 non riuscito o archivio con difetti, 2 uso errato.
+Stato di uscita: 0 fatto, 1 non riuscito o archivio con difetti, 2 uso errato,
+3 il file da importare vuole una password che manca o non è quella giusta.
 )";
 
 void scrivi(FILE *stream, const QString &text)
@@ -52,14 +65,19 @@ void scrivi(FILE *stream, const QString &text)
     std::fputs(qUtf8Printable(text + "\n"), stream);
 }
 
-int verifica(const QString &path)
+// Does the work, once more with a password where it asks for one; an empty password is none.
+template <typename Work, typename WantsPassword>
+auto conPassword(const Work &work, const WantsPassword &wantsPassword)
 {
-    Verifica result = verificaArchivio(path);
-    if (result.esito == Verifica::Esito::PasswordRichiesta) {
-        const std::optional<QString> password = chiediPassword("Password: ");
-        if (password && !password->isEmpty())
-            result = verificaArchivio(path, *password);
-    }
+    auto result = work(QString());
+    if (!wantsPassword(result))
+        return result;
+    const std::optional<QString> password = chiediPassword("Password: ");
+    return password && !password->isEmpty() ? work(*password) : result;
+}
+
+int mostra(const QString &path, const Verifica &result)
+{
     switch (result.esito) {
     case Verifica::Esito::InOrdine:
         scrivi(stdout, QStringLiteral("L'archivio \"%1\" è in ordine.").arg(path));
@@ -67,12 +85,60 @@ int verifica(const QString &path)
     case Verifica::Esito::PasswordRichiesta:
         scrivi(stdout, "L'archivio è protetto e la password manca o non è quella giusta");
         return kGuasto;
-    case Verifica::Esito::Guasto:
+    default:
         break;
     }
-    for (const QString &fault : std::as_const(result.guasti))
+    for (const QString &fault : result.guasti)
         scrivi(stdout, fault);
+    if (result.esito == Verifica::Esito::IndiciDaRiparare)
+        scrivi(stdout, "Sono rovinati solo gli indici: verifica --ripara li rifà");
     return kGuasto;
+}
+
+int verifica(const QString &path)
+{
+    return mostra(
+        path, conPassword([&](const QString &password) { return verificaArchivio(path, password); },
+                          [](const Verifica &result) { return result.esito == Verifica::Esito::PasswordRichiesta; }));
+}
+
+int ripara(const QString &path)
+{
+    const auto repair = [&](const QString &password) {
+        const Verifica before = verificaArchivio(path, password);
+        if (before.esito != Verifica::Esito::IndiciDaRiparare)
+            return before;
+        riparaArchivio(path, password);
+        scrivi(stdout, "Gli indici sono rifatti");
+        return verificaArchivio(path, password);
+    };
+    return mostra(path, conPassword(repair, [](const Verifica &result) {
+                      return result.esito == Verifica::Esito::PasswordRichiesta;
+                  }));
+}
+
+int importa(const QString &from, const QString &to)
+{
+    const Lettore reader{QCoreApplication::applicationFilePath(), {kLettura}};
+    QString refusal;
+    const auto attempt = [&](const QString &password) -> std::optional<RapportoImportazione> {
+        try {
+            return importaArchivio(from, to, password, reader);
+        } catch (const Failure &failure) {
+            if (failure.number() != FailureNumber::LoginRefused)
+                throw;
+            refusal = failure.words();
+            return std::nullopt;
+        }
+    };
+    const auto report = conPassword(attempt, [](const auto &result) { return !result; });
+    if (!report) {
+        scrivi(stderr, "cibra-archivio: " + refusal);
+        return kPassword;
+    }
+    for (const QString &line : testoRapporto(*report))
+        scrivi(stdout, line);
+    return kBene;
 }
 
 int proteggi(const QString &path)
@@ -88,8 +154,21 @@ int proteggi(const QString &path)
     return kBene;
 }
 
+int eseguiConDue(const QString &command, const QString &first, const QString &second)
+{
+    if (command == "importa")
+        return importa(first, second);
+    if (command == "verifica" && first == "--ripara")
+        return ripara(second);
+    if (command == "manutenzione")
+        return manutenzione(first, second) ? kBene : kUsoErrato;
+    return kUsoErrato;
+}
+
 int esegui(const QString &command, const QString &path)
 {
+    if (command == kLettura)
+        processoLettore(path);
     if (command == "nuovo")
         creaArchivioNuovo(path);
     else if (command == "esempio")
@@ -119,10 +198,12 @@ int main(int argc, char **argv)
     }
     int status = kUsoErrato;
     try {
-        if (arguments.size() == 2 && !arguments[1].isEmpty())
+        if (arguments.contains(QString()))
+            status = kUsoErrato;
+        else if (arguments.size() == 2)
             status = esegui(arguments[0], arguments[1]);
-        else if (arguments.size() == 3 && arguments[0] == "manutenzione")
-            status = manutenzione(arguments[1], arguments[2]) ? kBene : kUsoErrato;
+        else if (arguments.size() == 3)
+            status = eseguiConDue(arguments[0], arguments[1], arguments[2]);
     } catch (const Failure &failure) {
         scrivi(stderr, "cibra-archivio: " + failure.words());
         return kGuasto;

@@ -1,70 +1,21 @@
 #include "platform/store/ArchiveFile.h"
 
+#include "platform/store/ArchiveBuilder.h"
 #include "platform/store/EngineFailure.h"
-#include "platform/store/JetFunctions.h"
+#include "platform/store/NewFile.h"
 #include "platform/store/OpenArchive.h"
 #include "platform/store/Statement.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <memory>
 
 namespace {
 
-struct Closer
-{
-    void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
-};
-using Handle = std::unique_ptr<sqlite3, Closer>;
-
-// A file taken for a new archive: it goes away again unless all went well.
-class NewFile
-{
-public:
-    explicit NewFile(const QString &path) : m_path(path)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
-            throw Failure::usual(FailureNumber::PathAccess,
-                                 QFileInfo::exists(path) ? path + QStringLiteral(" esiste già") : path);
-    }
-    ~NewFile()
-    {
-        if (!m_done)
-            QFile::remove(m_path);
-    }
-    NewFile(const NewFile &) = delete;
-    NewFile &operator=(const NewFile &) = delete;
-
-    void keep() { m_done = true; }
-
-private:
-    QString m_path;
-    bool m_done = false;
-};
-
 void check(sqlite3 *handle, int rc, const QString &told = {})
 {
     if (rc != SQLITE_OK)
         throw engineFailure(handle, rc, told);
-}
-
-Handle openHandle(const QString &path)
-{
-    sqlite3 *raw = nullptr;
-    const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &raw,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-    Handle handle(raw);
-    check(raw, rc);
-    return handle;
-}
-
-void giveKey(sqlite3 *handle, const QString &password)
-{
-    const QByteArray key = password.toUtf8();
-    if (!key.isEmpty())
-        check(handle, sqlite3_key(handle, key.constData(), int(key.size())));
 }
 
 void run(sqlite3 *handle, const QByteArray &script)
@@ -98,16 +49,9 @@ void exportTo(sqlite3 *original, const QString &path, const QString &password)
 
 void makeArchive(const QString &path, const QString &script, const QString &password)
 {
-    NewFile file(path);
-    {
-        const Handle handle = openHandle(path);
-        giveKey(handle.get(), password);
-        teachEngine(handle.get());
-        run(handle.get(), "BEGIN");
-        run(handle.get(), script.toUtf8());
-        run(handle.get(), "COMMIT");
-    }
-    file.keep();
+    ArchiveBuilder builder(path, password);
+    builder.run(script);
+    builder.finish();
 }
 
 void copyEncrypted(const QString &from, const QString &to, const QString &password, const QString &fromPassword)
@@ -133,4 +77,24 @@ QStringList integrityCheck(const QString &path, const QString &password)
         faults << failure.words();
     }
     return faults;
+}
+
+void rebuildIndexes(const QString &path, const QString &password)
+{
+    run(openOriginal(path, password)->handle(), "REINDEX");
+}
+
+QMap<QString, qint64> rowCounts(const QString &path, const QString &password)
+{
+    const std::shared_ptr<Database> archive = openOriginal(path, password);
+    QMap<QString, qint64> counts;
+    Statement tables(archive->handle(), "SELECT name FROM sqlite_master WHERE type = 'table'");
+    while (tables.step()) {
+        const QString name = tables.columnText(0);
+        // Without a condition the engine would count the entries of an index all the same.
+        Statement count(archive->handle(), "SELECT Count(*) FROM " + quotedName(name) + " NOT INDEXED WHERE 1");
+        count.step();
+        counts.insert(name, count.columnInt(0));
+    }
+    return counts;
 }

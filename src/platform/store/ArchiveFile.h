@@ -1,6 +1,7 @@
 // Archive files as a whole: made, copied under a password, checked.
 #pragma once
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -16,3 +17,9 @@ void copyEncrypted(const QString &from, const QString &to, const QString &passwo
 // What the engine finds wrong with the archive, line by line; empty for a sound one. A file that does not open gives
 // the words of that failure.
 QStringList integrityCheck(const QString &path, const QString &password = {});
+
+// Makes all indexes of the archive anew from its tables. Throws Failure.
+void rebuildIndexes(const QString &path, const QString &password = {});
+
+// How many rows each table has, by the table's declared name, counted without any index. Throws Failure.
+QMap<QString, qint64> rowCounts(const QString &path, const QString &password = {});

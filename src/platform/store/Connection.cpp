@@ -1,7 +1,6 @@
 #include "platform/store/Connection.h"
 
 #include "platform/store/ConnectionPrivate.h"
-#include "platform/store/OpenArchive.h"
 
 #include <utility>
 
@@ -16,13 +15,23 @@ Connection::Connection() : m_private(std::make_unique<Private>()) {}
 
 Connection::~Connection() = default;
 
+OpenResult Connection::Private::open(const QString &archivePath, OpenedArchive archive)
+{
+    path = archivePath;
+    database = std::move(archive.database);
+    return archive.result;
+}
+
 OpenResult Connection::Open(const QString &path, const QString &password)
 {
     Close();
-    OpenedArchive archive = openArchive(path, password);
-    m_private->path = path;
-    m_private->database = std::move(archive.database);
-    return archive.result;
+    return m_private->open(path, openArchive(path, password, OpenFor::Use));
+}
+
+OpenResult Connection::OpenForInspection(const QString &path, const QString &password)
+{
+    Close();
+    return m_private->open(path, openArchive(path, password, OpenFor::Inspection));
 }
 
 void Connection::Close()

@@ -33,6 +33,8 @@ public:
     // Opens an existing archive; never makes one. A plain archive needs no password; an encrypted one without the
     // right password gives PasswordRichiesta; whatever else is wrong (missing, damaged, foreign) gives Errore.
     [[nodiscard]] OpenResult Open(const QString &path, const QString &password = {});
+    // The same to look at the archive alone: nothing of the file is changed, not even the way its journal is kept.
+    [[nodiscard]] OpenResult OpenForInspection(const QString &path, const QString &password = {});
     void Close();
     bool isOpen() const;
     QString path() const;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/store/Connection.h"
-#include "platform/store/Database.h"
+#include "platform/store/OpenArchive.h"
 
 #include <memory>
 
@@ -12,4 +12,5 @@ struct Connection::Private
     std::shared_ptr<Database> database; // null while closed
 
     Database &opened() const; // throws Failure(ConnectionClosed)
+    OpenResult open(const QString &archivePath, OpenedArchive archive);
 };

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr QByteArrayView kPlainHeader("SQLite format 3");
+constexpr QByteArrayView kJetName("Standard Jet DB"); // of an old .mdb file, which no password opens
+constexpr qsizetype kJetNameAt = 4;
 constexpr qint64 kEncryptedPage = 1024;
 constexpr int kLockWait = 5000; // milliseconds for another program to give its lock back
 
@@ -126,7 +128,11 @@ public:
         if (!file.open(QIODevice::ReadOnly))
             return refused(
                 Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + m_path));
-        m_plain = file.read(kPlainHeader.size()) == kPlainHeader;
+        const QByteArray head = file.read(kJetNameAt + kJetName.size());
+        m_plain = head.startsWith(kPlainHeader);
+        if (head.sliced(qMin(kJetNameAt, head.size())) == kJetName)
+            return refused(Failure(FailureNumber::Engine,
+                                   QStringLiteral("Il file è un archivio .mdb, da importare prima di usarlo")));
         if (m_size == 0)
             return refused(Failure(FailureNumber::Engine, QStringLiteral("Il file è vuoto, non è un archivio")));
         return openAndTest();

@@ -1,0 +1,20 @@
+// A file taken for a new archive: it goes away again unless all went well.
+#pragma once
+
+#include <QString>
+
+class NewFile
+{
+public:
+    explicit NewFile(const QString &path); // throws Failure(PathAccess) where it is there already or cannot be made
+    ~NewFile();
+    NewFile(const NewFile &) = delete;
+    NewFile &operator=(const NewFile &) = delete;
+
+    const QString &path() const { return m_path; }
+    void keep() { m_done = true; }
+
+private:
+    QString m_path;
+    bool m_done = false;
+};
