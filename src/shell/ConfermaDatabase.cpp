@@ -2,6 +2,9 @@
 
 #include "core/Locations.h"
 #include "platform/text/TextFile.h"
+#include "shell/OffriImportazione.h"
+
+#include <QDir>
 
 namespace {
 
@@ -71,14 +74,19 @@ void scriviNetServerIni(ModNetServer &modulo)
     modulo.NetProc = false;
 }
 
-DopoConferma registra(ModNetServer &modulo, const QString &cartella, const QString &file)
+DopoConferma registra(ModNetServer &modulo, const QString &cartella, const QString &scelto)
 {
     scriviNetServerIni(modulo);
-    if (file.isEmpty()) {
+    if (scelto.isEmpty()) {
         avvisa(modulo, QStringLiteral("Nessuna selezione ...."),
                QStringLiteral("Non è stato selezionato nessun Database Aziendale, Riprova..."), kRifiuto);
         return DopoConferma::LasciaAperto;
     }
+    // An old archive cannot be used as it is; without the new one another choice is due.
+    const bool old = EArchivioJet(QDir(cartella).filePath(scelto));
+    const QString file = old ? OffriImportazione(modulo, cartella, scelto) : scelto;
+    if (file.isEmpty())
+        return DopoConferma::LasciaAperto;
     AssicuraCartellaIni(modulo);
     ScriviGestioneRete(modulo, cartella, file);
     LeggiPercorsiDb(modulo);

@@ -45,6 +45,9 @@ empty) ;;
     ;;
 esac
 [ ! -d "$scenario.folder" ] || cp -r "$scenario.folder/." "$folder/"
+for old in $(setting copies ""); do
+    cp "$(dirname "$scenario")/../archive/mdb/$old" "$folder/"
+done
 password=$(setting password "")
 [ -z "$password" ] || printf '%s\n%s\n' "$password" "$password" | "$archivio" proteggi "$folder/Archivio/famiglia.db"
 
