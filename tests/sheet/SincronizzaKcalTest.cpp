@@ -317,6 +317,21 @@ TEST_F(SincronizzaKcalTest, TheBarAdvancesOnceWhicheverPersonsAreAskedFor)
     EXPECT_THAT(world.schermate.bar.widths, testing::ElementsAre(550, 900, 1250, 1600));
 }
 
+TEST_F(SincronizzaKcalTest, AFailingBalanceLeavesTheBarWhereItCameToAndTheNextOneGoesOnFromThere)
+{
+    first({"100, 1600, 1600"});
+    second({"100, 1600, 1600"});
+    world.modulo.KcalPrimaPersona = "tanto";
+    expectFailure(FailureNumber::TypeMismatch, true, true);
+    EXPECT_TRUE(world.schermate.bar.widths.empty());
+    world.modulo.KcalPrimaPersona = "1500";
+    world.modulo.KcalSecondaPersona = "tanto";
+    expectFailure(FailureNumber::TypeMismatch, true, true);
+    world.modulo.KcalSecondaPersona = "1500";
+    SincronizzaKcal(world.modulo, kDay, true, true);
+    EXPECT_THAT(world.schermate.bar.widths, testing::ElementsAre(550, 900));
+}
+
 TEST_F(SincronizzaKcalTest, ThePointerIsLeftBusyAndRsComuneOpenOnTheDay)
 {
     first({"100, 1600, 1600"});

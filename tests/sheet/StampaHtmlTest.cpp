@@ -69,6 +69,30 @@ TEST_F(StampaHtmlTest, ThePageOpensInTheBrowser)
     EXPECT_EQ(world.programmi.started, QStringList("Page " + world.cartella.path("\\documenti\\09032004.html")));
 }
 
+TEST_F(StampaHtmlTest, ADishAtLunchAndAtDinnerIsPrintedInBothMealsEachWithItsOwnRows)
+{
+    insertSheet(world.modulo.dati(), {"'13/03/2004', 'Cena', 'Riso', 'Burro', 758, 10, 75.8, 10, 75.8",
+                                      "'13/03/2004', 'Pranzo', 'Riso', 'Riso', 362, 70, 253.4, 90, 325.8"});
+    const QByteArray page = printed("13/03/2004");
+    EXPECT_EQ(page.count("Riso 70 gr./ml."), 1);
+    EXPECT_EQ(page.count("Burro 10 gr./ml."), 2); // both persons eat as much of it
+    EXPECT_LT(page.indexOf("Riso 70 gr./ml."), page.indexOf("Burro 10 gr./ml."));
+    EXPECT_TRUE(page.contains("329,2"));
+}
+
+TEST_F(StampaHtmlTest, OneSnackFailsAtTheSecondAndLeavesThePageAsFarAsItCame)
+{
+    insertSheet(world.modulo.dati(), {"'13/03/2004', 'Spuntino', 'Mela', 'Mela', 45, 100, 45, 100, 45",
+                                      "'13/03/2004', 'Pranzo', 'Pane', 'Pane', 270, 50, 135, 50, 135"});
+    EXPECT_EQ(failure("13/03/2004"), FailureNumber::NoCurrentRow);
+    const QByteArray page = world.cartella.read("\\documenti\\13032004.html");
+    EXPECT_TRUE(page.contains("<td align=\"center\"  width=\"50%\">Spuntino delle ore 10 Mela 100 gr./ml.</td> \r\n"));
+    EXPECT_FALSE(page.contains("Spuntino delle ore 15"));
+    EXPECT_FALSE(page.contains("Pane"));
+    EXPECT_FALSE(page.contains("</table>"));
+    EXPECT_TRUE(world.programmi.started.isEmpty());
+}
+
 TEST_F(StampaHtmlTest, TwoSnacksFailAtTheThirdAndLeaveThePageAsFarAsItCame)
 {
     insertSheet(world.modulo.dati(), {"'13/03/2004', 'Spuntino', 'Mela', 'Mela', 45, 100, 45, 100, 45",

@@ -108,6 +108,19 @@ TEST_F(StampaTestoTest, ADayTextThatBreaksTheStatementLeavesTheHead)
     EXPECT_EQ(world.cartella.read("\\documenti\\l'altro.txt").count("\r\n"), 4);
 }
 
+TEST_F(StampaTestoTest, ADishAtLunchAndAtDinnerIsPrintedInBothMealsEachWithItsOwnRows)
+{
+    insertSheet(world.modulo.dati(), {"'13/03/2004', 'Cena', 'Riso', 'Burro', 758, 10, 75.8, 10, 75.8",
+                                      "'13/03/2004', 'Pranzo', 'Riso', 'Riso', 362, 70, 253.4, 90, 325.8"});
+    const QStringList lines = QString::fromLatin1(printed("13/03/2004")).split("\r\n");
+    QStringList told; // what stands in the first person's column, from the dishes on
+    for (const QString &line : lines.mid(4))
+        if (line.startsWith("     | ") && !line.mid(6, 50).trimmed().isEmpty())
+            told.append(line.mid(6, 50).simplified());
+    EXPECT_EQ(told, QStringList({"Pranzo", "Riso", "Riso 70 gr./ml.", "Cena", "Riso", "Burro 10 gr./ml.",
+                                 "totale giornaliero KCal.329,2"}));
+}
+
 TEST_F(StampaTestoTest, AViewerThatIsMissingFailsWithTheFileComplete)
 {
     world.programmi.nothingIsInstalled = true;
