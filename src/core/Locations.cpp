@@ -46,15 +46,9 @@ bool isFromRoot(const QString &path)
     return path.startsWith(u'/') || path.startsWith(u'\\');
 }
 
-// The native path of an archive; one without a folder lies in the program folder, which is the current one.
-QString nativePath(const ModNetServer &modulo, const QString &path)
-{
-    return isFromRoot(path) ? ProgramFolder::resolveAbsolute(path) : modulo.mondo.folder.resolve(path);
-}
-
 bool archiveExists(const ModNetServer &modulo, const QString &path)
 {
-    return !path.isEmpty() && QFileInfo(nativePath(modulo, path)).isFile();
+    return !path.isEmpty() && QFileInfo(PercorsoNativo(modulo, path)).isFile();
 }
 
 // One reading of the locations, and the dialog where no data archive comes of it. Tells whether the search is over.
@@ -142,6 +136,11 @@ void resetLocations(ModNetServer &modulo, const OpenResult &result)
 
 } // namespace
 
+QString PercorsoNativo(const ModNetServer &modulo, const QString &percorso)
+{
+    return isFromRoot(percorso) ? ProgramFolder::resolveAbsolute(percorso) : modulo.mondo.folder.resolve(percorso);
+}
+
 void LeggiPercorsiDb(ModNetServer &modulo)
 {
     while (!findArchives(modulo)) {
@@ -168,20 +167,20 @@ void ApriConnessioni(ModNetServer &modulo)
 
 void ApriDbSistema(ModNetServer &modulo, const QString &Percorso)
 {
-    if (openNew(modulo.ConnessioneSistema, nativePath(modulo, Percorso)))
+    if (openNew(modulo.ConnessioneSistema, PercorsoNativo(modulo, Percorso)))
         return;
     const QString mended = QString(Percorso).replace(QStringLiteral("\\\\"), QStringLiteral("\\"));
     if (mended == Percorso)
         return;
     // Nothing is reported: the program runs without a system archive as well.
-    openNew(modulo.ConnessioneSistema, nativePath(modulo, mended));
+    openNew(modulo.ConnessioneSistema, PercorsoNativo(modulo, mended));
 }
 
 void ApriDbDati(ModNetServer &modulo, const QString &Percorso)
 {
     if (modulo.ConnessioneDati)
         return;
-    const QString path = nativePath(modulo, Percorso);
+    const QString path = PercorsoNativo(modulo, Percorso);
     const OpenResult result = openNew(modulo.ConnessioneDati, path);
     showPath(modulo, Percorso);
     switch (result.outcome) {

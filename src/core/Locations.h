@@ -8,6 +8,8 @@
 void LeggiPercorsiDb(ModNetServer &modulo);
 // Opens both connections from the location globals.
 void ApriConnessioni(ModNetServer &modulo);
+// The native path of an archive; one without a folder lies in the program folder, which is the current one.
+QString PercorsoNativo(const ModNetServer &modulo, const QString &percorso);
 // Opens ConnessioneSistema; a path with doubled backslashes is mended and tried again, other failures are ignored.
 void ApriDbSistema(ModNetServer &modulo, const QString &Percorso);
 // Opens ConnessioneDati where it is null: asks for the password of an encrypted archive, resets the locations for a

@@ -1,5 +1,6 @@
 #include "sheet/EsportaRecordset.h"
 
+#include "core/Locations.h"
 #include "platform/text/TextFile.h"
 
 namespace {
@@ -31,7 +32,7 @@ void report(ModNetServer &modulo, const QString &file, const QString &hint)
 // A second way into the archive; into an encrypted one only the connection that was given the password leads.
 Connection &openAgain(ModNetServer &modulo, Connection &archive)
 {
-    const OpenResult result = archive.Open(modulo.PercorsoDbDati);
+    const OpenResult result = archive.Open(PercorsoNativo(modulo, modulo.PercorsoDbDati));
     if (result.outcome == OpenOutcome::Errore)
         throw Failure(FailureNumber(result.number), result.words);
     return result ? archive : modulo.dati();

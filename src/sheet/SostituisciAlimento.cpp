@@ -48,6 +48,11 @@ QStringList AlimentiSostitutivi(ModNetServer &modulo)
     return items;
 }
 
+bool NominaUnAlimento(const QString &scelta)
+{
+    return scelta.contains(kSeparatore);
+}
+
 std::optional<AlimentoSostituto> LeggiSostituto(ModNetServer &modulo, const QString &scelta, const QString &piatto)
 {
     const qsizetype at = scelta.indexOf(kSeparatore);

@@ -11,6 +11,9 @@
 // where a name stands several times in one group of foods. Read afresh at each call.
 QStringList AlimentiSostitutivi(ModNetServer &modulo);
 
+// Whether a text names a food to choose: it holds " / ".
+bool NominaUnAlimento(const QString &scelta);
+
 // What the choice brings for the columns of the row: those of the first row of Piatti with that food, whatever its
 // dish.
 struct AlimentoSostituto

@@ -9,7 +9,9 @@
 
 namespace {
 
-constexpr int kDays = 3652;
+constexpr int kYear = 366; // 2020
+constexpr int kTenYears = 3652;
+constexpr int kRowsOfTenYears = 125000;
 const QDate kFirstDay(2020, 1, 1);
 
 QString schema()
@@ -20,32 +22,41 @@ QString schema()
     return QString::fromUtf8(file.readAll());
 }
 
-// 125,000 rows: day by day, meals and foods as a sheet has them.
-QString sheetRows()
+// Day by day, meals and foods as a sheet has them.
+QString sheetRows(int days)
 {
+    const int rows = int(qint64(kRowsOfTenYears) * days / kTenYears);
     return QStringLiteral(
-        "INSERT INTO SchedaPranzo (dataInserimento, PranzoCenaSpuntino, Piatto, Alimento, KC100gr, quantita, "
-        "KcNominale,"
-        " Totale1, quantita2, KcNominale2, Totale2) "
-        "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 124999) "
-        "SELECT strftime('%d/%m/%Y', date('2020-01-01', '+' || (i * 3652 / 125000) || ' days')), "
-        "CASE i % 5 WHEN 0 THEN 'Colazione' WHEN 1 THEN 'Pranzo' WHEN 2 THEN 'Cena' ELSE 'Spuntino' END, "
-        "'Piatto numero ' || (i * 7 % 160), 'Alimento con nome ' || (i * 13 % 400), 50.0 + i % 300, 20.0 + i % 180, "
-        "1100.0, (50.0 + i % 300) / 100 * (20 + i % 180), 30.0 + i % 200, 1500.0, "
-        "(50.0 + i % 300) / 100 * (30 + i % 200) FROM n;");
+               "INSERT INTO SchedaPranzo (dataInserimento, PranzoCenaSpuntino, Piatto, Alimento, KC100gr, quantita, "
+               "KcNominale,"
+               " Totale1, quantita2, KcNominale2, Totale2) "
+               "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+               "SELECT strftime('%d/%m/%Y', date('2020-01-01', '+' || (i * 3652 / 125000) || ' days')), "
+               "CASE i % 5 WHEN 0 THEN 'Colazione' WHEN 1 THEN 'Pranzo' WHEN 2 THEN 'Cena' ELSE 'Spuntino' END, "
+               "'Piatto numero ' || (i * 7 % 160), 'Alimento con nome ' || (i * 13 % 400), 50.0 + i % 300, 20.0 + i % "
+               "180, "
+               "1100.0, (50.0 + i % 300) / 100 * (20 + i % 180), 30.0 + i % 200, 1500.0, "
+               "(50.0 + i % 300) / 100 * (30 + i % 200) FROM n;")
+        .arg(rows - 1);
 }
 
 } // namespace
 
 const SheetYears &SheetYears::shared()
 {
-    static const SheetYears years;
+    static const SheetYears years(kTenYears);
     return years;
 }
 
-SheetYears::SheetYears()
+const SheetYears &SheetYears::ofOneYear()
 {
-    makeArchive(path(), schema() + sheetRows());
+    static const SheetYears year(kYear);
+    return year;
+}
+
+SheetYears::SheetYears(int days) : m_days(days)
+{
+    makeArchive(path(), schema() + sheetRows(days));
     makeArchive(emptyPath(), schema());
 }
 
@@ -61,5 +72,5 @@ QString SheetYears::emptyPath() const
 
 QString SheetYears::dayText(int number) const
 {
-    return TestoData(kFirstDay.addDays(number % kDays));
+    return TestoData(kFirstDay.addDays(number % m_days));
 }

@@ -97,6 +97,13 @@ TEST_F(EsportaRecordsetTest, TheStatementIsNamedInTheArchiveAndAStatementThatCan
     EXPECT_FALSE(dati.hasTable("NuovoQueryDef"));
 }
 
+TEST_F(EsportaRecordsetTest, TheArchiveIsOpenedAgainAlsoWhereItsPathIsWrittenWithTheSettingsSign)
+{
+    world.modulo.PercorsoDbDati = world.cartella.path() + "\\Cibra.Mdb";
+    exported(IstruzioneColazioniNumerate(), kExcell);
+    EXPECT_EQ(world.dialoghi.boxes().size(), 2);
+}
+
 TEST_F(EsportaRecordsetTest, AnArchiveThatCannotBeOpenedAgainFailsWithoutAReport)
 {
     world.modulo.PercorsoDbDati = world.cartella.path("\\Altrove.Mdb");

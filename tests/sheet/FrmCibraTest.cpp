@@ -1,80 +1,17 @@
-#include "sheet/forms/FrmCibra.h"
-
-#include "platform/ui/DataCombo.h"
-#include "platform/ui/DataGrid.h"
-#include "platform/ui/FormRegistry.h"
-#include "sheet/DayRows.h"
-#include "support/TestWorld.h"
+#include "sheet/FrmCibraWorld.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QApplication>
 #include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 
 namespace {
 
 constexpr const char *kTail = "          (FrmCibra.frm)";
 
-class FrmCibraTest : public testing::Test
+class FrmCibraTest : public FrmCibraWorld
 {
-protected:
-    FrmCibraTest() : dati(world.openArchive())
-    {
-        world.setHousehold();
-        world.modulo.NomePrimaPersona = "Ondira";
-        world.modulo.NomeSecondaPersona = "Tesmo";
-        world.modulo.KcalPrimaPersona = "1100";
-        world.modulo.KcalSecondaPersona = "1500";
-        host.report = [this](const Failure &failure) { failures.append(failure.words()); };
-        registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, world.modulo); });
-        insertSheet(dati, {"'02/03/2025', 'Colazione', 'Colazione 1', 'Latte', 50, 200, 100, 300, 150",
-                           "'02/03/2025', 'Pranzo', 'Pasta', 'Pasta', 350, 100, 350, 120, 420",
-                           "'11/01/2025', 'Cena', 'Riso', 'Riso', 100, 1200, 1200, 1700, 1700"});
-    }
-
-    FrmCibra &form() { return registry.get<FrmCibra>(); }
-    void show()
-    {
-        form().showModeless();
-        QApplication::processEvents();
-    }
-    template <class Control>
-    Control &control(const char *name)
-    {
-        return *form().findChild<Control *>(name);
-    }
-    DataCombo &days() { return control<DataCombo>("DataCombo2"); }
-    DataGrid &grid() { return control<DataGrid>("TDBGrid1"); }
-    QString caption(const char *label) { return control<QLabel>(label).text(); }
-    QStringList totals() { return {control<QLineEdit>("Text2").text(), control<QLineEdit>("Text3").text()}; }
-    void click(const char *button) { control<QAbstractButton>(button).click(); }
-    void pick(const QString &day) // from the list, as the user does
-    {
-        days().setCurrentIndex(days().findText(day));
-        emit days().activated(days().currentIndex());
-    }
-    int currentRow() { return grid().currentIndex().row(); }
-    QStringList foods()
-    {
-        QStringList names;
-        for (int row = 0; row < grid().model()->rowCount(); ++row)
-            names.append(grid().model()->index(row, 3).data().toString());
-        return names;
-    }
-    bool visible(const char *name) { return !control<QWidget>(name).isHidden(); }
-
-    TestWorld world;
-    Connection &dati;
-    FormHost host;
-    FormRegistry registry;
-    QStringList failures;
 };
 
 TEST_F(FrmCibraTest, ItOpensOnTodayWithItsRowsTotalsCaptionsAndTargets)
@@ -276,6 +213,8 @@ TEST_F(FrmCibraTest, TheHintFollowsTheMouseAndFrameGridAndFormHideIt)
     const std::pair<const char *, QString> hints[] = {
         {"Command5", portions + "1500"},
         {"Command6", portions + "1100"},
+        {"Command1", "Seleziona la Data, il tipo ( pranzo/colazione/spuntino, seleziona ) e il Piatto e premi "
+                     "''INSERISCI PIATTO''"},
         {"Check1", "Se il check è selezionato, ogni volta che ricerchi un menu giornaliero, provvede in automatico a "
                    "sincronizzare i vari elementi di ogni menu al valore dei KCal giornalieri di default"}};
     for (QWidget *elsewhere : {&control<QWidget>("Frame1"), form().centralWidget(), grid().viewport()}) {

@@ -1,16 +1,26 @@
 #include "sheet/forms/FrmCibra.h"
 
-#include "core/ErrorLog.h"
+#include "catalogue/forms/BarraNavigazione.h"
+#include "catalogue/forms/Icone.h"
 #include "platform/text/Dates.h"
+#include "platform/ui/StatusPanels.h"
 #include "platform/ui/Tema.h"
+#include "sheet/ElencoPiatti.h"
+#include "sheet/EsportaRecordset.h"
 #include "sheet/GiornoScheda.h"
+#include "sheet/RigheScheda.h"
 #include "sheet/SincronizzaKcal.h"
 #include "sheet/StampaHtml.h"
 #include "sheet/StampaTesto.h"
 #include "ui_FrmCibra.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPixmap>
+
+#include <array>
 
 static void initResources()
 {
@@ -22,7 +32,12 @@ namespace {
 constexpr int kEscape = 27;
 constexpr int kPannelloStato = 4; // of the background's status bar
 constexpr int kPannelloSuccessivo = 5;
-constexpr int kColonnaPersone = 5; // the first of the six columns that name a person
+constexpr int kPannelloModifica = 2; // "F6 Modifica" of the form's own bar
+constexpr int kColonnaPersone = 5;   // the first of the six columns that name a person
+constexpr QRgb kGrigio = 0xffe0e0e0; // back colour of the boxes that are filled by the program
+constexpr std::array kCaselleGrigie{1, 2, 4, 5, 6, 7, 10};
+
+constexpr QSize kPiuGrande(160, 52); // of a picture beside the prints
 
 // The mouse pointer that the balancing leaves busy is set back at the end of its caller, also when that is a failure.
 class PuntatoreLibero
@@ -37,6 +52,16 @@ private:
     Schermo &m_screen;
 };
 
+std::vector<GridColumn> gridColumns()
+{
+    return {{"DataInserimento", "Data"},    {"PranzoCenaSpuntino", "Pranzo Cena Spuntino"},
+            {"Piatto", "Piatto"},           {"Alimento", "Alimento"},
+            {"KC100gr", "KCal per 100 g."}, {"quantita", "Quantita "},
+            {"KcNominale", "Kcal "},        {"Totale1", "Totale "},
+            {"quantita2", "Quantita "},     {"KcNominale2", "Kcal "},
+            {"Totale2", "Totale "}};
+}
+
 QColor rowColour(const Recordset &rows, int row)
 {
     return Tema::meal(rows.valueAt(row, rows.fieldIndex("PranzoCenaSpuntino")).text());
@@ -49,43 +74,75 @@ void colourCaption(QWidget *caption, const QColor &colour)
     caption->setPalette(palette);
 }
 
+// Readable on a light and on a dark desktop, the grey being the same on both.
+void colourGrey(QWidget *box)
+{
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::Base, QColor(kGrigio));
+    palette.setColor(QPalette::Text, Qt::black);
+    box->setPalette(palette);
+}
+
+// The room of a control that comes and goes is kept, so that nothing jumps.
+void keepRoom(QWidget *control)
+{
+    QSizePolicy policy = control->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control->setSizePolicy(policy);
+}
+
+QPixmap picture(const ProgramFolder &folder, const QString &file, const QSize &largest)
+{
+    const QPixmap drawn(folder.resolve(file));
+    return drawn.isNull() ? drawn : drawn.scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
 } // namespace
 
-FrmCibra::FrmCibra(FormHost &host, FormRegistry &, ModNetServer &modulo)
-    : Form("FrmCibra", host), m_ui(std::make_unique<Ui::FrmCibra>()), m_modulo(modulo)
+FrmCibra::FrmCibra(FormHost &host, FormRegistry &registry, ModNetServer &modulo)
+    : SchedaRecord("FrmCibra", host, modulo), m_ui(std::make_unique<Ui::FrmCibra>()), m_registry(registry)
 {
     initResources();
     m_ui->setupUi(this);
-    m_ui->TDBGrid1->setColumns({{"DataInserimento", "Data"},
-                                {"PranzoCenaSpuntino", "Pranzo Cena Spuntino"},
-                                {"Piatto", "Piatto"},
-                                {"Alimento", "Alimento"},
-                                {"KC100gr", "KCal per 100 g."},
-                                {"quantita", "Quantita "},
-                                {"KcNominale", "Kcal "},
-                                {"Totale1", "Totale "},
-                                {"quantita2", "Quantita "},
-                                {"KcNominale2", "Kcal "},
-                                {"Totale2", "Totale "}});
-    m_ui->TDBGrid1->setHost(&host);
-    m_ui->TDBGrid1->setRowColour(rowColour);
-    m_ui->DataCombo2->lineEdit()->setFont(m_ui->DataCombo2->font());
-    colourCaption(m_ui->Label1, Tema::firstPerson());
-    colourCaption(m_ui->Label2, Tema::secondPerson());
-    m_ui->Command14->hide();
-    reserveHint();
+    prepara({{"F5 New", "Aggiunge un Nuovo Record "},
+             {"F6 Modifica", "Modifica il Record corrente"},
+             {"F4 Ricerca", "Ricerca"},
+             {"F7 Ric.Successiva", "Ricerca Successiva"},
+             {"F3 Cancella", "Cancella il Record corrente"},
+             {"F10 Annulla", "Annulla le modifiche"},
+             {"Griglia", "Esce dalla procedura"},
+             {"F12 Salva", "Salva le modifiche apportate"},
+             {"F11 Esci", "Esce dalla procedura"}});
+    dress();
     connectHandlers();
+    connectRowCommands();
     watchMouse();
 }
 
 FrmCibra::~FrmCibra() = default;
 
-// The hint keeps its room while hidden, so that nothing jumps when it shows.
-void FrmCibra::reserveHint()
+void FrmCibra::dress()
 {
-    QSizePolicy policy = m_ui->Label5->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    m_ui->Label5->setSizePolicy(policy);
+    m_ui->TDBGrid1->setHost(&host());
+    for (DataGrid *grid : {m_ui->TDBGrid1, m_ui->MyGriglia}) {
+        grid->setColumns(gridColumns());
+        grid->setRowColour(rowColour);
+    }
+    m_ui->DataCombo2->lineEdit()->setFont(m_ui->DataCombo2->font());
+    for (QWidget *caption :
+         std::initializer_list<QWidget *>{m_ui->Label1, m_ui->LbLabel_9, m_ui->LbLabel_11, m_ui->LbLabel_13})
+        colourCaption(caption, Tema::firstPerson());
+    for (QWidget *caption :
+         std::initializer_list<QWidget *>{m_ui->Label2, m_ui->LbLabel_10, m_ui->LbLabel_12, m_ui->LbLabel_14})
+        colourCaption(caption, Tema::secondPerson());
+    VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
+    m_ui->ImgMarvo->setIcon(Icone::icona("note"));
+    for (const int grey : kCaselleGrigie)
+        colourGrey(campi().at(grey)->box());
+    m_ui->MnuNascosto->menuAction()->setVisible(false);
+    m_ui->Combo1->setCompleter(nullptr);
+    m_ui->Command14->hide();
+    keepRoom(m_ui->Label5);
     m_ui->Label5->hide();
 }
 
@@ -93,35 +150,66 @@ void FrmCibra::connectHandlers()
 {
     on(m_ui->DataCombo2, &DataCombo::picked, this, &FrmCibra::DataCombo2_Click);
     on(m_ui->DataCombo2, &DataCombo::textChanged, this, &FrmCibra::DataCombo2_Change);
+    on(m_ui->Combo1, &QComboBox::currentTextChanged, this, &FrmCibra::Combo1_Change);
+    on(m_ui->Combo1, &QComboBox::activated, this, &FrmCibra::Combo1_Change);
+    on(m_ui->Combo1->lineEdit(), &QLineEdit::editingFinished, this, &FrmCibra::Combo1_Change);
+    on(m_ui->Command1, &QPushButton::clicked, this, &FrmCibra::Command1_Click);
     on(m_ui->Command5, &QPushButton::clicked, this, &FrmCibra::Command5_Click);
     on(m_ui->Command6, &QPushButton::clicked, this, &FrmCibra::Command6_Click);
     on(m_ui->Check1, &QCheckBox::toggled, this, &FrmCibra::Check1_Click);
     on(m_ui->Option1_0, &QRadioButton::toggled, this, &FrmCibra::Option1_Click);
     on(m_ui->Command2, &QPushButton::clicked, this, &FrmCibra::Command2_Click);
     on(m_ui->Command14, &QPushButton::clicked, this, &FrmCibra::Command14_Click);
-    on(m_ui->MnuCalcola, &QAction::triggered, this, &FrmCibra::MnuCalcola_Click);
-    on(m_ui->MnuClose, &QAction::triggered, this, &FrmCibra::MnuClose_Click);
-    on(m_ui->MnuEsci, &QAction::triggered, this, &FrmCibra::MnuEsci_Click);
+    on(m_ui->mnuarchivio, &QAction::triggered, this, &FrmCibra::mnuarchivio_Click);
+    on(m_ui->mnuPiattiKcal, &QAction::triggered, this, &FrmCibra::mnuPiattiKcal_Click);
+}
+
+void FrmCibra::connectRowCommands()
+{
+    on(m_ui->Label3, &EtichettaComando::doubleClicked, this, &FrmCibra::Label3_DblClick);
+    on(m_ui->Label4, &EtichettaComando::doubleClicked, this, &FrmCibra::Label4_DblClick);
+    on(m_ui->Label6, &EtichettaComando::clicked, this, &FrmCibra::Label6_Click);
+    on(m_ui->Label7, &EtichettaComando::clicked, this, &FrmCibra::Label7_Click);
+    on(m_ui->Command3, &QPushButton::clicked, this, &FrmCibra::Command3_Click);
+    on(m_ui->Command4, &QPushButton::clicked, this, &FrmCibra::Command4_Click);
 }
 
 void FrmCibra::watchMouse()
 {
-    for (QWidget *control : {m_ui->centralwidget, m_ui->TDBGrid1->viewport(), static_cast<QWidget *>(m_ui->Frame1),
-                             static_cast<QWidget *>(m_ui->Check1), static_cast<QWidget *>(m_ui->Command5),
-                             static_cast<QWidget *>(m_ui->Command6)}) {
+    m_ui->MyGriglia->viewport()->installEventFilter(this);
+    for (QWidget *control : std::initializer_list<QWidget *>{
+             m_ui->centralwidget, m_ui->Foglio, m_ui->TDBGrid1->viewport(), m_ui->Riga, m_ui->Inserimento, m_ui->Frame1,
+             m_ui->Frame2, m_ui->Check1, m_ui->Command1, m_ui->Command5, m_ui->Command6}) {
         control->setMouseTracking(true);
         control->installEventFilter(this);
     }
 }
 
+QString FrmCibra::istruzione() const
+{
+    return IstruzioneColazioniNumerate();
+}
+
+QString FrmCibra::richiestaRicerca() const
+{
+    return "Inserisci IL NOMINATIVO da ricercare";
+}
+
+QString FrmCibra::campoRicerca() const
+{
+    return "Nominativo";
+}
+
+SchedaRecord::RigaPosizione FrmCibra::rigaNavigazione(bool) const
+{
+    return Posizione::Salvata;
+}
+
 void FrmCibra::Form_Load()
 {
-    try {
-        loadSheet();
-    } catch (const Failure &failure) {
-        m_modulo.mondo.schermo.setMousePointer(MousePointer::Default);
-        RoutineErrore(m_modulo, name(), "Form_Load ", failure);
-    }
+    proceduraAvvio();
+    if (!comando("Form_Load ", [this] { loadSheet(); }))
+        modulo().mondo.schermo.setMousePointer(MousePointer::Default);
 }
 
 // The rows of all days, which the form would hold for a moment before it looks up its day, are not read: nobody sees
@@ -129,33 +217,33 @@ void FrmCibra::Form_Load()
 void FrmCibra::loadSheet()
 {
     CaricamentoInCorso = true;
-    m_modulo.mondo.schermo.setMousePointer(MousePointer::Hourglass);
-    m_ui->DataCombo2->setText(TestoData(m_modulo.mondo.orologio.today()));
-    stageDone();
+    modulo().mondo.schermo.setMousePointer(MousePointer::Hourglass);
+    m_ui->DataCombo2->setText(TestoData(modulo().mondo.orologio.today()));
+    apriScheda();
+    tappa();
     bindDays();
-    stageDone();
+    tappa();
     CercaSchedaPranzo(m_ui->DataCombo2->text());
-    stageDone();
-    m_modulo.schermate.setPannelloSfondo(kPannelloStato, "OK!" + windowTitle() + " !");
-    m_modulo.schermate.setPannelloSfondo(kPannelloSuccessivo, "Procedura " + windowTitle() + " in esecuzione");
-    setWindowTitle(windowTitle() + QString(10, ' ') + '(' + name() + ".frm)");
-    m_modulo.mondo.schermo.setMousePointer(MousePointer::Default);
-    m_ui->Check1->setChecked(AggiustaAutomaticamente(m_modulo));
+    tappa();
+    m_ui->DataCombo1->setRowSource(*Datprimaryrs, "piatto");
+    legaCampi(Datsecondaryrs);
+    on(Datsecondaryrs.get(), &Recordset::moveComplete, this, &FrmCibra::Datsecondaryrs_MoveComplete);
+    Datsecondaryrs_MoveComplete();
+    modulo().schermate.setPannelloSfondo(kPannelloStato, "OK!" + windowTitle() + " !");
+    modulo().schermate.setPannelloSfondo(kPannelloSuccessivo, "Procedura " + windowTitle() + " in esecuzione");
+    codaTitolo();
+    modulo().mondo.schermo.setMousePointer(MousePointer::Default);
+    m_ui->Text1->setText(TestoData(modulo().mondo.orologio.today()));
+    m_ui->Check1->setChecked(AggiustaAutomaticamente(modulo()));
     setTargets();
-}
-
-// Each stage of the load puts a point behind the text of the background's status panel.
-void FrmCibra::stageDone()
-{
-    m_modulo.schermate.setPannelloSfondo(kPannelloStato, m_modulo.schermate.pannelloSfondo(kPannelloStato) + '.');
 }
 
 // The list is copied: RsComune is soon used by others, and a day that is added later does not join it.
 void FrmCibra::bindDays()
 {
-    m_modulo.RsComune = std::make_shared<Recordset>();
-    m_modulo.RsComune->Open(IstruzioneGiorni(), m_modulo.dati(), Recordset::Access::ReadOnly);
-    m_ui->DataCombo2->setRowSource(*m_modulo.RsComune, "datainserimento");
+    modulo().RsComune = std::make_shared<Recordset>();
+    modulo().RsComune->Open(IstruzioneGiorni(), modulo().dati(), Recordset::Access::ReadOnly);
+    m_ui->DataCombo2->setRowSource(*modulo().RsComune, "datainserimento");
     const int unreadable = m_ui->DataCombo2->findText({}, Qt::MatchExactly); // all day texts that are no date
     if (unreadable >= 0)
         m_ui->DataCombo2->removeItem(unreadable);
@@ -163,53 +251,93 @@ void FrmCibra::bindDays()
 
 void FrmCibra::setTargets()
 {
-    m_ui->Command5->setText("Sincronizza  a " + m_modulo.KcalSecondaPersona);
-    m_ui->Command6->setText("Sincronizza  a " + m_modulo.KcalPrimaPersona);
-    m_ui->LbTraguardoPrima->setText("su " + m_modulo.KcalPrimaPersona);
-    m_ui->LbTraguardoSeconda->setText("su " + m_modulo.KcalSecondaPersona);
+    m_ui->Command5->setText("Sincronizza  a " + modulo().KcalSecondaPersona);
+    m_ui->Command6->setText("Sincronizza  a " + modulo().KcalPrimaPersona);
+    m_ui->LbTraguardoPrima->setText("su " + modulo().KcalPrimaPersona);
+    m_ui->LbTraguardoSeconda->setText("su " + modulo().KcalSecondaPersona);
+    m_ui->LbLabel_9->setText("KCal " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_11->setText("Quantità " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_13->setText("Totale " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_10->setText("KCal " + modulo().NomeSecondaPersona);
+    m_ui->LbLabel_12->setText("Quantità " + modulo().NomeSecondaPersona);
+    m_ui->LbLabel_14->setText("Totale " + modulo().NomeSecondaPersona);
 }
 
-// Every resize shows the day afresh, from its first row.
+// Every resize shows the day afresh, from its first row; what was typed into a box is stored before. The position line
+// counts the list that was there before the class of dishes was read again.
 void FrmCibra::Form_Resize()
 {
-    try {
+    leaveTypedBoxes();
+    comando("Form_Resize", [this] {
+        loadPictures();
         setPersonCaptions();
-        m_modulo.mondo.schermo.setMousePointer(MousePointer::Default);
+        scriviPosizione(Posizione::Record);
+        if (Datprimaryrs->RecordCount() > 0) {
+            cmdFirst_Click();
+            scriviPosizione(Posizione::Record);
+        }
+        modulo().mondo.schermo.setMousePointer(MousePointer::Default);
         CaricamentoInCorso = false;
-        if (!m_ui->DataCombo2->text().isEmpty())
-            CercaSchedaPranzo(m_ui->DataCombo2->text());
-    } catch (const Failure &failure) {
-        RoutineErrore(m_modulo, name(), "Form_Resize", failure);
+        Combo1_Change();
+    });
+}
+
+// The screen works without its pictures.
+void FrmCibra::loadPictures()
+{
+    const ProgramFolder &folder = modulo().mondo.folder;
+    if (!folder.fileExists("\\Picture\\MENU.jpg"))
+        return;
+    const QPixmap email = picture(folder, "\\Picture\\EmailVerticalejpg.jpg", m_ui->LogoEmail->maximumSize());
+    m_ui->LogoEmail->setPixmap(email);
+    m_ui->LogoEmail->setVisible(!email.isNull());
+    const QPixmap menu = picture(folder, "\\Picture\\menu.jpg", kPiuGrande);
+    if (!menu.isNull()) {
+        m_ui->ImgMarvo->setIcon(menu);
+        m_ui->ImgMarvo->setIconSize(menu.size());
     }
 }
 
 void FrmCibra::setPersonCaptions()
 {
     int column = kColonnaPersone;
-    for (const QString &person : {m_modulo.NomePrimaPersona, m_modulo.NomeSecondaPersona})
-        for (const char *caption : {"Quantita ", "Kcal ", "Totale "})
-            m_ui->TDBGrid1->setCaption(column++, caption + person);
-    m_ui->Label1->setText("Totale Kcal " + m_modulo.NomePrimaPersona);
-    m_ui->Label2->setText("Totale Kcal " + m_modulo.NomeSecondaPersona);
+    for (const QString &person : {modulo().NomePrimaPersona, modulo().NomeSecondaPersona})
+        for (const char *caption : {"Quantita ", "Kcal ", "Totale "}) {
+            for (DataGrid *grid : {m_ui->TDBGrid1, m_ui->MyGriglia})
+                grid->setCaption(column, caption + person);
+            ++column;
+        }
+    m_ui->Label1->setText("Totale Kcal " + modulo().NomePrimaPersona);
+    m_ui->Label2->setText("Totale Kcal " + modulo().NomeSecondaPersona);
 }
 
 void FrmCibra::CercaSchedaPranzo(const QString &giorno)
 {
     Datsecondaryrs->Close();
-    Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo(giorno), m_modulo.dati());
+    Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo(giorno), modulo().dati());
     if (m_ui->TDBGrid1->dataSource() != Datsecondaryrs) // else it follows the set by itself
         m_ui->TDBGrid1->setDataSource(Datsecondaryrs);
     Recordset sum;
-    const TotaliGiorno totali = SommaGiorno(sum, m_modulo.dati(), giorno);
-    m_ui->Text2->setText(totali.prima);
-    m_ui->Text3->setText(totali.seconda);
+    showTotals(SommaGiorno(sum, modulo().dati(), giorno));
 }
 
 void FrmCibra::Totali()
 {
-    const TotaliGiorno totali = ::Totali(m_modulo, m_ui->DataCombo2->text());
+    showTotals(::Totali(modulo(), m_ui->DataCombo2->text()));
+}
+
+void FrmCibra::showTotals(const TotaliGiorno &totali)
+{
     m_ui->Text2->setText(totali.prima);
     m_ui->Text3->setText(totali.seconda);
+}
+
+// The labels name what their command will act on.
+void FrmCibra::Datsecondaryrs_MoveComplete()
+{
+    m_ui->Label4->setText("  Cancella Gruppo " + testo(1));
+    m_ui->Label6->setText("  Sostituisci Alimento " + testo(3));
+    m_ui->Label7->setText("Sostituisci Piatto " + testo(2));
 }
 
 void FrmCibra::DataCombo2_Click()
@@ -244,14 +372,14 @@ void FrmCibra::Command6_Click()
 
 void FrmCibra::balanceAndReload(bool PrimaPersona, bool SecondaPersona)
 {
-    const PuntatoreLibero pointer(m_modulo.mondo.schermo);
-    SincronizzaKcal(m_modulo, m_ui->DataCombo2->text(), PrimaPersona, SecondaPersona);
+    const PuntatoreLibero pointer(modulo().mondo.schermo);
+    SincronizzaKcal(modulo(), m_ui->DataCombo2->text(), PrimaPersona, SecondaPersona);
     CercaSchedaPranzo(m_ui->DataCombo2->text());
 }
 
 void FrmCibra::Check1_Click()
 {
-    SalvaAggiusta(m_modulo, m_ui->Check1->isChecked());
+    SalvaAggiusta(modulo(), m_ui->Check1->isChecked());
 }
 
 // Both print buttons stand in one place: the format decides which of them shows.
@@ -264,60 +392,106 @@ void FrmCibra::Option1_Click()
 
 void FrmCibra::Command2_Click()
 {
-    StampaHtml(m_modulo, m_ui->DataCombo2->text());
+    StampaHtml(modulo(), m_ui->DataCombo2->text());
 }
 
 void FrmCibra::Command14_Click()
 {
-    StampaTesto(m_modulo, m_ui->DataCombo2->text());
+    StampaTesto(modulo(), m_ui->DataCombo2->text());
 }
 
-void FrmCibra::MnuCalcola_Click()
+void FrmCibra::MnuFileTesto_Click()
 {
-    m_modulo.mondo.programmi.start(ProgramKind::Calculator, "calc.exe");
+    comando("mnuFileTesto_Click ", [this] { ::MnuFileTesto(modulo(), *Datprimaryrs, istruzione()); });
 }
 
-void FrmCibra::MnuClose_Click()
+// The overview takes the place of the day; the day is looked up again behind it.
+void FrmCibra::mnuGriglia_Click()
 {
-    unload();
+    leaveTypedBoxes();
+    if (m_ui->MyGriglia->isHidden()) {
+        RsGriglia->Close();
+        RsGriglia->Open("SELECT  * FROM SchedaPranzo ORDER BY SchedaPranzo.dataInserimento DESC;", modulo().dati());
+        m_ui->MyGriglia->setDataSource(RsGriglia);
+        m_ui->Foglio->hide();
+        m_ui->MyGriglia->show();
+        return;
+    }
+    CercaSchedaPranzo(m_ui->DataCombo2->text());
+    nascondiGriglia();
 }
 
-void FrmCibra::MnuEsci_Click()
+void FrmCibra::nascondiGriglia()
 {
-    MnuClose_Click();
+    m_ui->MyGriglia->hide();
+    m_ui->Foglio->show();
+}
+
+// Enter goes to the control that has the focus.
+void FrmCibra::MnuHelp_Click()
+{
+    QWidget *const focused = focusWidget() ? focusWidget() : this;
+    QCoreApplication::postEvent(focused, new QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r"));
+    QCoreApplication::postEvent(focused, new QKeyEvent(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier, "\r"));
+}
+
+bool FrmCibra::tastoProprio(const QString &tasto)
+{
+    const bool view = stato() == "V";
+    if (tasto == "F6") {
+        if (view && barra().isPanelEnabled(kPannelloModifica))
+            mnuModifica_Click();
+        else
+            modulo().mondo.schermo.beep();
+        return true;
+    }
+    if (tasto == "F9") {
+        if (view)
+            MnuFileTesto_Click();
+        else
+            modulo().mondo.schermo.beep();
+        return true;
+    }
+    return false;
 }
 
 void FrmCibra::Form_KeyPress(int character)
 {
-    if (character != kEscape)
-        return;
-    m_modulo.PiattoSostituto.clear();
-    unload();
+    if (character == kEscape)
+        modulo().PiattoSostituto.clear();
+    SchedaRecord::Form_KeyPress(character);
 }
 
 bool FrmCibra::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == m_ui->Frame2 && event->type() == QEvent::MouseButtonDblClick)
+        runHandler([this] { Command4_Click(); });
+    // Also below the last row, where the grid itself knows of no double click.
+    if (watched == m_ui->MyGriglia->viewport() && event->type() == QEvent::MouseButtonDblClick)
+        runHandler([this] { nascondiGriglia(); });
     if (event->type() != QEvent::MouseMove)
-        return Form::eventFilter(watched, event);
+        return SchedaRecord::eventFilter(watched, event);
     const bool hasHint = mouseMovedOver(watched);
     // A move that a button leaves unused would go on to its frame, which hides the hint again.
     return hasHint && static_cast<QMouseEvent *>(event)->buttons() == Qt::NoButton;
 }
 
-// Gives whether the control has a hint; the form, its frame and its grid hide it.
+// Gives whether the control has a hint; the form, its frames and its grid hide it.
 bool FrmCibra::mouseMovedOver(QObject *control)
 {
     const QString portions = "RICALCOLA LE QUANTITA DI OGNI ELEMENTO RIPORTANDO IL TOTALE CALORIE A ";
-    if (control == m_ui->Command5) {
-        showHint(portions + m_modulo.KcalSecondaPersona);
+    if (control == m_ui->Command1) {
+        showHint("Seleziona la Data, il tipo ( pranzo/colazione/spuntino, seleziona ) e il Piatto e premi "
+                 "''INSERISCI PIATTO''");
+    } else if (control == m_ui->Command5) {
+        showHint(portions + modulo().KcalSecondaPersona);
     } else if (control == m_ui->Command6) {
-        showHint(portions + m_modulo.KcalPrimaPersona);
+        showHint(portions + modulo().KcalPrimaPersona);
     } else if (control == m_ui->Check1) {
         showHint("Se il check è selezionato, ogni volta che ricerchi un menu giornaliero, provvede in automatico a "
                  "sincronizzare i vari elementi di ogni menu al valore dei KCal giornalieri di default");
     } else {
-        if (control == m_ui->centralwidget || control == m_ui->Frame1 || control == m_ui->TDBGrid1->viewport())
-            m_ui->Label5->hide();
+        m_ui->Label5->hide();
         return false;
     }
     return true;
