@@ -2,7 +2,9 @@
 option(CIBRA_TESTS "Build the tests" ON)
 option(CIBRA_BENCH "Build cibra-bench" OFF)
 option(CIBRA_SANITIZE "Build with address and undefined-behaviour sanitizers" OFF)
-option(CIBRA_FUZZ "Build the fuzz targets (clang only)" OFF)
+option(CIBRA_FUZZ "Build the fuzz targets and nothing else (clang only)" OFF)
+option(CIBRA_FUZZ_RUNS "Let the tests build the fuzz targets and run each for a while" OFF)
+set(CIBRA_FUZZ_SECONDS 30 CACHE STRING "How long the tests run each fuzz target")
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
