@@ -97,7 +97,12 @@ Passo giornataIntera()
     QList<Porzione> porzioni;
     for (const Riga &riga : kGiornata)
         porzioni.append({riga.nome, riga.alimento, QString::number(riga.grammi)});
-    return giorno("giornata intera", porzioni);
+    Passo passo = giorno("giornata intera", porzioni);
+    // A result that is not written again would not be told from the 0 that it begins with.
+    for (const QString &riga : nomiDelleRighe())
+        for (const char *risultato : {"h", "k", "c", "p", "f"})
+            passo.scrivi[riga + risultato] = "1";
+    return passo;
 }
 
 QList<Passo> passi()
