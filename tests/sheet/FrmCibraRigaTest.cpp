@@ -228,6 +228,61 @@ TEST_F(FrmCibraRigaTest, WhatWasTypedIsStoredBeforeACommandThatLeavesTheFocusInI
     EXPECT_EQ(row(0), "Colazione | Colazione 1 | Latte | 120 | 60 | 300 | 150");
 }
 
+TEST_F(FrmCibraRigaTest, TheKeyOfAnotherRowIsRefusedAndADeletionTakesTheRowOnShow)
+{
+    show();
+    enter(11, "3");
+    EXPECT_EQ(world.dialoghi.takeBoxes().size(), 1);
+    EXPECT_EQ(text(11), "1");
+    world.dialoghi.answer(MsgAnswer::Si);
+    doubleClick("Label3");
+    EXPECT_EQ(foods(), QStringList("Pasta"));
+    EXPECT_EQ(sheet("11/01/2025").size(), 1);
+}
+
+TEST_F(FrmCibraRigaTest, ARowWithANewKeyCanBeEditedFurther)
+{
+    show();
+    enter(11, "40");
+    enter(9, "200");
+    EXPECT_TRUE(world.dialoghi.boxes().isEmpty());
+    EXPECT_EQ(valueOf(dati, "Select quantita2 from SchedaPranzo where ID = 40"), "200");
+}
+
+TEST_F(FrmCibraRigaTest, WhatCannotBeStoredForTheMomentWaitsAndNothingIsDeletedMeanwhile)
+{
+    show();
+    dati.setLockWait(20);
+    {
+        Connection other;
+        ASSERT_TRUE(other.Open(dati.path()));
+        GruppoScritture writing(other);
+        other.Execute("UPDATE SchedaPranzo SET Piatto = 'Riso' WHERE ID = 3");
+        enter(8, "90");
+        EXPECT_EQ(world.dialoghi.takeBoxes().size(), 1);
+        EXPECT_EQ(text(8), "90");
+        doubleClick("Label3"); // tries again first
+        ASSERT_EQ(world.dialoghi.boxes().size(), 1);
+        EXPECT_TRUE(world.dialoghi.takeBoxes().first().contains("in uso da un altro programma"));
+        writing.close();
+    }
+    enter(8, "90");
+    EXPECT_TRUE(world.dialoghi.boxes().isEmpty());
+    EXPECT_EQ(row(0), "Colazione | Colazione 1 | Latte | 90 | 45 | 300 | 150");
+}
+
+TEST_F(FrmCibraRigaTest, ADayWithAnApostropheShowsNothingAndTheFormGoesOn)
+{
+    show();
+    days().setText("02/03/2025'");
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_TRUE(foods().isEmpty());
+    EXPECT_EQ(totals(), QStringList({"0", "0"}));
+    days().setText("02/03/2025");
+    EXPECT_EQ(foods(), QStringList({"Latte", "Pasta"}));
+    EXPECT_EQ(failures.size(), 1);
+}
+
 TEST_F(FrmCibraRigaTest, ADoubleClickDeletesTheRowOnShowAndASingleOneNothing)
 {
     show();

@@ -208,6 +208,10 @@ void Recordset::Private::writeEdit(Database &opened, const std::vector<CellChang
     if (!written)
         throw rowChanged();
     pending.apply(*shape, currentCells());
+    for (const CellChange &change : changes) // the row is known by its new key from now on
+        if (change.column == shape->table->keyColumn && change.after.kind != Cell::Kind::Null)
+            currentCells()[shape->keyCell()] = Cell::ofWhole(
+                change.after.kind == Cell::Kind::Whole ? change.after.whole : qint64(change.after.number));
 }
 
 Failure Recordset::Private::rowChanged() const

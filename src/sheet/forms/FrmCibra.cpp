@@ -314,7 +314,13 @@ void FrmCibra::setPersonCaptions()
 void FrmCibra::CercaSchedaPranzo(const QString &giorno)
 {
     Datsecondaryrs->Close();
-    Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo(giorno), modulo().dati());
+    try {
+        Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo(giorno), modulo().dati());
+    } catch (const Failure &) { // a text that breaks the statement shows no day, not the totals of the former one
+        Datsecondaryrs->Open(IstruzioneCercaSchedaPranzo({}), modulo().dati());
+        showTotals({"0", "0"});
+        throw;
+    }
     if (m_ui->TDBGrid1->dataSource() != Datsecondaryrs) // else it follows the set by itself
         m_ui->TDBGrid1->setDataSource(Datsecondaryrs);
     Recordset sum;

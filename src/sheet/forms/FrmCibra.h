@@ -100,7 +100,7 @@ private:
     void showTotals(const TotaliGiorno &totali);
     void balanceAndReload(bool PrimaPersona, bool SecondaPersona);
     void recalculate(int index);
-    void leaveTypedBoxes();
+    bool leaveTypedBoxes();
     bool hasRow() const;
     void needRow() const;
     void writeRow();

@@ -27,6 +27,7 @@ struct CasellePersona
 constexpr CasellePersona kPrima{8, 10};
 constexpr CasellePersona kSeconda{9, 4};
 constexpr int kKC100gr = 5;
+constexpr int kID = 11;
 
 } // namespace
 
@@ -96,8 +97,10 @@ void FrmCibra::recalculate(int index)
             totalBox->setText(*total);
         writeRow();
     } catch (const Failure &failure) {
-        if (failure.number() == FailureNumber::TypeMismatch)
-            Datsecondaryrs->CancelUpdate(); // the row keeps the values that it had, and the boxes show them
+        // The row keeps the values that it had, and the boxes show them. A key that cannot be stored must not stay on
+        // show either: it would name another row to whoever deletes.
+        if (failure.number() == FailureNumber::TypeMismatch || index == kID)
+            Datsecondaryrs->CancelUpdate();
         throw;
     }
     if (total) { // with its point, until the row is shown anew
@@ -108,17 +111,25 @@ void FrmCibra::recalculate(int index)
     m_ui->TDBGrid1->refresh();
 }
 
-// A command that leaves the focus in its box (a menu, a key, a resize) stores first what was typed there.
-void FrmCibra::leaveTypedBoxes()
+// A command that leaves the focus in its box (a menu, a key, a resize) stores first what was typed there. False where
+// that could not be stored, which the user has been told.
+bool FrmCibra::leaveTypedBoxes()
 {
     for (const auto &[index, box] : campi())
         if (box->isChanged())
             TxtFields_LostFocus(index);
+    if (Datsecondaryrs->isPending())
+        comando("txtFields_LostFocus ", [this] {
+            writeRow();
+            Totali();
+        });
+    return !Datsecondaryrs->isPending();
 }
 
 void FrmCibra::Label3_DblClick()
 {
-    leaveTypedBoxes();
+    if (!leaveTypedBoxes())
+        return;
     const PostoNellaScheda here = posto();
     if (CancellaRecord(modulo(), here, testo(3), testo(11)))
         CercaSchedaPranzo(here.giorno);
@@ -126,7 +137,8 @@ void FrmCibra::Label3_DblClick()
 
 void FrmCibra::Label4_DblClick()
 {
-    leaveTypedBoxes();
+    if (!leaveTypedBoxes())
+        return;
     const PostoNellaScheda here = posto();
     if (CancellaGruppo(modulo(), here))
         CercaSchedaPranzo(here.giorno);
@@ -177,7 +189,8 @@ void FrmCibra::Command4_Click()
 // The new rows bear the name that the dish box shows at the time, and the day's totals are not summed again here.
 void FrmCibra::Label7_Click()
 {
-    leaveTypedBoxes();
+    if (!leaveTypedBoxes())
+        return;
     needRow();
     const PostoNellaScheda here = posto();
     modulo().PiattoSostituto = here.piatto;
