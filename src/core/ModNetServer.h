@@ -51,6 +51,7 @@ struct ModNetServer
     int LivelloUtente = 0;       // never set
     bool ModoSistema = false;    // never set
     bool ErroreAVideo = false;   // the dialog "Errore Generico" is up
+    bool CopiaMancata = false;   // a safety copy failed in this run, and the user has been told
 
     bool PuoAggiungere() const { return LivelloUtente >= 3; } // a record form offers new records
     bool PuoCancellare() const { return LivelloUtente >= 4; } // a record form offers to delete records

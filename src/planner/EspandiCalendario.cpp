@@ -1,5 +1,6 @@
 #include "planner/EspandiCalendario.h"
 
+#include "core/CopieDiSicurezza.h"
 #include "core/Vocabulary.h"
 #include "platform/text/Dates.h"
 #include "sheet/SincronizzaKcal.h"
@@ -215,6 +216,7 @@ void mnuGenera(ModNetServer &modulo, const SceltaEspansione &scelta, FormPianifi
         form.mnuCrea();
         return;
     }
+    CopiaDiSicurezza(modulo); // hand-made changes of the range are about to go
     espansione.run();
     modulo.mondo.schermo.setMousePointer(MousePointer::Default);
     form.setBarraVisibile(false);

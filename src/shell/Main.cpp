@@ -1,5 +1,6 @@
 #include "shell/Main.h"
 
+#include "core/CopieDiSicurezza.h"
 #include "core/ErrorLog.h"
 #include "core/Locations.h"
 #include "platform/text/Dates.h"
@@ -65,6 +66,7 @@ void apriDatabase(ModNetServer &modulo, SchermateDiAvvio &schermate)
     LeggiPercorsiDb(modulo);
     modulo.ConnessioneDsn = false;
     ApriConnessioni(modulo);
+    CopiaDiSicurezza(modulo);
     avanzaBarra(schermate);
 }
 

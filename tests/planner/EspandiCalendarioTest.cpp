@@ -1,5 +1,6 @@
 #include "planner/EspandiCalendario.h"
 
+#include "core/CopieDiSicurezza.h"
 #include "planner/PlannerTest.h"
 
 namespace {
@@ -75,6 +76,37 @@ protected:
 
     RecordingForm form;
 };
+
+TEST_F(EspansioneTest, ACopyWithTheSheetsOfTheRangeIsKeptBeforeTheyAreDeleted)
+{
+    addOneFoodDishes();
+    addWholeDay("1/1/2025");
+    insertRows(dati, "SchedaPranzo", "dataInserimento, Piatto", {"'01/01/2025', 'Scritto a mano'"});
+    expand("01/01/2025", "01/01/2025");
+    EXPECT_FALSE(sheet("Piatto").contains("Scritto a mano"));
+    const QStringList copies = CopieDi(dati.path());
+    ASSERT_EQ(copies.size(), 1);
+    Connection copy;
+    ASSERT_TRUE(copy.Open(copies.constFirst()));
+    EXPECT_EQ(rowsOf(copy, "SELECT Piatto FROM SchedaPranzo"), QStringList("Scritto a mano"));
+    EXPECT_EQ(countOf(copy, "Menu"), 1);
+}
+
+TEST_F(EspansioneTest, ACopyThatFailsDoesNotStopTheExpansion)
+{
+    addOneFoodDishes();
+    addWholeDay("1/1/2025");
+    world.cartella.write("Copie", "un file dove va la cartella");
+    expand("01/01/2025", "01/01/2025");
+    EXPECT_EQ(sheet("Piatto").size(), 10);
+    EXPECT_EQ(world.schermate.errors.size(), 1);
+}
+
+TEST_F(EspansioneTest, WithoutMenusThereIsNothingToKeepACopyFor)
+{
+    expand("01/01/2025", "01/01/2025");
+    EXPECT_EQ(CopieDi(dati.path()), QStringList());
+}
 
 TEST_F(EspansioneTest, ADayBecomesOneRowAFoodInTheOrderOfItsSlots)
 {

@@ -1,9 +1,11 @@
 // What becomes of a file that the user names.
+#include "platform/store/ArchiveLock.h"
 #include "platform/store/ConnectionPrivate.h"
 #include "platform/StoreTest.h"
 
 #include <QFile>
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -236,6 +238,27 @@ TEST_F(ReadOnlyArchiveTest, AFileInAFolderThatMayNotBeWrittenOpensForReading)
 {
     protect(true);
     expectReadableAndNotWritable();
+}
+
+TEST_F(OpenArchiveTest, AnOpenArchiveIsLockedForOtherPrograms)
+{
+    makeArchive(path(), kScript);
+    const auto seenByAnother = [&] {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(isLockedByAnother(path()) ? 1 : 0);
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WEXITSTATUS(status) == 1;
+    };
+    EXPECT_FALSE(seenByAnother());
+    ASSERT_TRUE(openWith());
+    EXPECT_EQ(names(), u"uno due"_s);
+    EXPECT_TRUE(seenByAnother());
+    EXPECT_EQ(integrityCheck(path()), QStringList());
+    EXPECT_TRUE(seenByAnother()) << "a second look at the file leaves the lock alone";
+    m_connection.Close();
+    EXPECT_FALSE(seenByAnother());
 }
 
 } // namespace

@@ -124,9 +124,33 @@ TEST_F(MainTest, FoldersThatAreThereInAnotherSpellingAreLeftAlone)
     world.cartella.makeFolder("DOCUMENTI");
     QFile::rename(world.cartella.path("INI"), world.cartella.path() + "/Ini");
     run();
-    EXPECT_EQ(world.cartella.entries(), QStringList({"Cibra.Mdb", "DOCUMENTI/", "Ini/"}));
+    world.modulo.dati().Close(); // its journal lies beside it while it is open
+    EXPECT_EQ(world.cartella.entries(), QStringList({"Cibra.Mdb", "Copie/", "DOCUMENTI/", "Ini/"}));
     EXPECT_EQ(world.cartella.entries("Ini"), QStringList("GestioneRete.INI"));
     EXPECT_EQ(world.cartella.entries("DOCUMENTI"), QStringList());
+}
+
+TEST_F(MainTest, EachStartKeepsACopyOfAnArchiveThatChanged)
+{
+    setUpArchive();
+    run();
+    EXPECT_EQ(world.cartella.entries("Copie"), QStringList("2025-03-02_10-20-30-000_Cibra.Mdb"));
+    world.modulo.dati().Execute("INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
+    world.orologio.when = world.orologio.when.addDays(1);
+    for (int start = 0; start < 2; ++start) {
+        world.modulo.ConnessioneDati.reset();
+        run();
+    }
+    EXPECT_EQ(world.cartella.entries("Copie"),
+              QStringList({"2025-03-02_10-20-30-000_Cibra.Mdb", "2025-03-03_10-20-30-000_Cibra.Mdb"}));
+}
+
+TEST_F(MainTest, TheMarkerCopieNoLeavesTheStartWithoutCopies)
+{
+    setUpArchive();
+    world.cartella.write("Copie.no", "");
+    run();
+    EXPECT_FALSE(world.cartella.has("Copie"));
 }
 
 TEST_F(MainTest, AFirstCharacterFHidesTheBackgroundAndNothingElseDoes)

@@ -7,6 +7,7 @@
 #include "platform/store/TableInfo.h"
 #include "platform/store/WriteGroup.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
@@ -15,12 +16,14 @@
 class Database
 {
 public:
-    explicit Database(sqlite3 *handle); // which it owns
+    // Owns `handle`. `key` is what an encrypted archive was opened with: its copies get the same.
+    explicit Database(sqlite3 *handle, const QByteArray &key = {});
     ~Database();
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
     sqlite3 *handle() const { return m_handle.get(); }
+    const QByteArray &key() const { return m_key; }
     WriteGroup &group() { return m_group; }
 
     // The Jet statement translated, prepared and with its values bound. Throws Failure(Engine).
@@ -40,6 +43,7 @@ private:
     void forgetTables();
 
     std::unique_ptr<sqlite3, Closer> m_handle;
+    QByteArray m_key;
     WriteGroup m_group;
     StatementCache m_statements;
     QHash<QString, std::shared_ptr<const TableInfo>> m_tables; // by lower-case name

@@ -8,7 +8,10 @@
 #include <QFileInfo>
 #include <QUrl>
 
+#include <cstddef>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -55,6 +58,22 @@ Handle openHandle(const QString &path, Mode mode)
         opened.rc = sqlite3_open_v2(unchangingUri(path).constData(), &opened.handle,
                                     SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX, nullptr);
     return opened;
+}
+
+// The first bytes of a file, zeros standing for those that it lacks; nothing where it cannot be read. Through the
+// engine: any other way to close a file that this process has open as an archive drops the locks on it.
+std::optional<QByteArray> readHead(const QString &path, qsizetype size)
+{
+    sqlite3_vfs *const disk = sqlite3_vfs_find(nullptr);
+    std::vector<std::max_align_t> memory(std::size_t(disk->szOsFile) / sizeof(std::max_align_t) + 1);
+    auto *const file = reinterpret_cast<sqlite3_file *>(memory.data());
+    const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath()) + QByteArray(2, '\0');
+    if (disk->xOpen(disk, name.constData(), file, SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB, nullptr) != SQLITE_OK)
+        return std::nullopt;
+    QByteArray head(size, '\0');
+    const int rc = file->pMethods->xRead(file, head.data(), int(size), 0);
+    file->pMethods->xClose(file);
+    return rc == SQLITE_OK || rc == SQLITE_IOERR_SHORT_READ ? std::optional(head) : std::nullopt;
 }
 
 // The failures that say that the file itself is no good, whatever the statement.
@@ -124,13 +143,12 @@ public:
             return refused(Failure::usual(FailureNumber::FileNotFound, m_path));
         m_size = info.size();
         m_journalWasEmpty = nothingInJournal();
-        QFile file(m_path);
-        if (!file.open(QIODevice::ReadOnly))
+        const std::optional<QByteArray> head = readHead(m_path, kJetNameAt + kJetName.size());
+        if (!head)
             return refused(
                 Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + m_path));
-        const QByteArray head = file.read(kJetNameAt + kJetName.size());
-        m_plain = head.startsWith(kPlainHeader);
-        if (head.sliced(qMin(kJetNameAt, head.size())) == kJetName)
+        m_plain = head->startsWith(kPlainHeader);
+        if (head->sliced(kJetNameAt) == kJetName)
             return refused(Failure(FailureNumber::Engine,
                                    QStringLiteral("Il file è un archivio .mdb, da importare prima di usarlo")));
         if (m_size == 0)
@@ -168,7 +186,7 @@ private:
     OpenedArchive attempt(Mode mode)
     {
         const Handle opened = openHandle(m_path, mode);
-        auto database = std::make_shared<Database>(opened.handle);
+        auto database = std::make_shared<Database>(opened.handle, key());
         sqlite3 *const handle = opened.handle;
         int rc = opened.rc;
         if (rc == SQLITE_OK) {
@@ -192,11 +210,11 @@ private:
     }
 
     // A plain archive has no use for a password.
+    QByteArray key() const { return m_plain ? QByteArray() : m_password.toUtf8(); }
     void giveKey(sqlite3 *handle) const
     {
-        const QByteArray key = m_password.toUtf8();
-        if (!m_plain && !key.isEmpty())
-            sqlite3_key(handle, key.constData(), int(key.size()));
+        if (const QByteArray given = key(); !given.isEmpty())
+            sqlite3_key(handle, given.constData(), int(given.size()));
     }
 
     OpenedArchive failed(sqlite3 *handle, int rc) const

@@ -1,0 +1,128 @@
+#include "platform/store/BackUp.h"
+
+#include "platform/store/ConnectionPrivate.h"
+#include "platform/store/EngineFailure.h"
+#include "platform/store/JetFunctions.h"
+#include "platform/store/Statement.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace {
+
+constexpr int kAllPages = -1;
+
+struct Closer
+{
+    void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
+};
+using Handle = std::unique_ptr<sqlite3, Closer>;
+
+Failure copyFailure(sqlite3 *copy, int rc)
+{
+    if ((rc & 0xff) == SQLITE_FULL)
+        return Failure(FailureNumber::Engine, QStringLiteral("Il disco è pieno"));
+    return engineFailure(copy, rc);
+}
+
+void check(sqlite3 *copy, int rc)
+{
+    if (rc != SQLITE_OK)
+        throw copyFailure(copy, rc);
+}
+
+// A file that the copy is written into: it goes away again unless all went well, and nobody else may read it so far.
+class CopyFile
+{
+public:
+    explicit CopyFile(const QString &path) : m_path(path)
+    {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
+            throw Failure::usual(FailureNumber::PathAccess,
+                                 QFileInfo::exists(path) ? path + QStringLiteral(" esiste già") : path);
+    }
+    ~CopyFile()
+    {
+        if (!m_done)
+            QFile::remove(m_path);
+    }
+    CopyFile(const CopyFile &) = delete;
+    CopyFile &operator=(const CopyFile &) = delete;
+
+    void keep() { m_done = true; }
+
+private:
+    QString m_path;
+    bool m_done = false;
+};
+
+// The program that starts or expands does not stand still for a copy.
+class WithoutWaiting
+{
+public:
+    explicit WithoutWaiting(sqlite3 *handle) : m_handle(handle)
+    {
+        Statement asked(handle, "PRAGMA busy_timeout");
+        m_before = asked.step() ? int(asked.columnInt(0)) : 0;
+        sqlite3_busy_timeout(handle, 0);
+    }
+    ~WithoutWaiting() { sqlite3_busy_timeout(m_handle, m_before); }
+    WithoutWaiting(const WithoutWaiting &) = delete;
+    WithoutWaiting &operator=(const WithoutWaiting &) = delete;
+
+private:
+    sqlite3 *m_handle;
+    int m_before = 0;
+};
+
+Handle openCopy(const QString &path, const QByteArray &key)
+{
+    sqlite3 *raw = nullptr;
+    const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &raw,
+                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    Handle copy(raw);
+    check(raw, rc);
+    if (!key.isEmpty())
+        check(raw, sqlite3_key(raw, key.constData(), int(key.size())));
+    teachEngine(raw);
+    // Half a copy is thrown away, so that there is nothing to roll back.
+    check(raw, sqlite3_exec(raw, "PRAGMA journal_mode=OFF", nullptr, nullptr, nullptr));
+    return copy;
+}
+
+void copyPages(sqlite3 *original, sqlite3 *copy)
+{
+    const WithoutWaiting now(original);
+    sqlite3_backup *const backup = sqlite3_backup_init(copy, "main", original, "main");
+    if (!backup)
+        throw copyFailure(copy, sqlite3_errcode(copy));
+    const int rc = sqlite3_backup_step(backup, kAllPages);
+    const int ending = sqlite3_backup_finish(backup);
+    if (rc != SQLITE_DONE)
+        throw copyFailure(copy, ending != SQLITE_OK ? ending : rc);
+}
+
+void checkPages(sqlite3 *copy)
+{
+    Statement checking(copy, "PRAGMA quick_check(1)");
+    while (checking.step())
+        if (const QString found = checking.columnText(0); found != u"ok")
+            throw engineFailure(SQLITE_CORRUPT, found);
+}
+
+} // namespace
+
+void backUp(Connection &from, const QString &to)
+{
+    Database &original = from.engine().opened();
+    CopyFile file(to);
+    {
+        const Handle copy = openCopy(to, original.key());
+        copyPages(original.handle(), copy.get());
+        checkPages(copy.get());
+    }
+    file.keep();
+}
