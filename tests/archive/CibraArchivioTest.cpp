@@ -1,4 +1,5 @@
 // The tool from its command line.
+#include "core/CopieDiSicurezza.h"
 #include "CreaArchivio.h"
 #include "platform/store/Connection.h"
 #include "support/Printers.h"
@@ -53,8 +54,9 @@ TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
     EXPECT_EQ(help.err, "");
     for (const char *command :
          {"nuovo FILE", "esempio FILE", "sistema FILE", "prepara CARTELLA", "importa VECCHIO.mdb NUOVO",
-          "verifica FILE", "verifica --ripara FILE", "proteggi FILE", "manutenzione COMANDO FILE", "    esporta ",
-          "    importa ", "    abbina ", "    gruppi ", "    sostituti ", "    rapporto ", "    calorie "})
+          "verifica FILE", "verifica --ripara FILE", "proteggi FILE", "sproteggi FILE", "ripristina COPIA ARCHIVIO",
+          "manutenzione COMANDO FILE", "    esporta ", "    importa ", "    abbina ", "    gruppi ", "    sostituti ",
+          "    rapporto ", "    calorie "})
         EXPECT_TRUE(help.out.contains(command)) << command;
 }
 
@@ -196,6 +198,63 @@ TEST_F(CibraArchivioTest, TwoPasswordsThatDifferProtectNothing)
     EXPECT_EQ(refused.err, "cibra-archivio: Le due password sono diverse\n");
     EXPECT_EQ(archivio({"proteggi", path}, "una\n").status, 1);
     EXPECT_EQ(folder.read("famiglia.db"), before);
+}
+
+TEST_F(CibraArchivioTest, ThePasswordIsTakenOffWithThePasswordFromTheInput)
+{
+    creaArchivioNuovo(path);
+    ASSERT_EQ(archivio({"proteggi", path}, "segreta\nsegreta\n").status, 0);
+    for (const char *input : {"", "\n", "altra\n"}) {
+        const Result refused = archivio({"sproteggi", path}, input);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_EQ(refused.err, QByteArray(input).trimmed().isEmpty()
+                                   ? "cibra-archivio: L'archivio è protetto da una password\n"
+                                   : "cibra-archivio: Password non valida\n");
+    }
+    const Result done = archivio({"sproteggi", path}, "segreta\n");
+    EXPECT_EQ(done.status, 0) << done.err.toStdString();
+    EXPECT_EQ(done.out, QString("L'archivio \"%1\" non ha più una password.\n").arg(path));
+    EXPECT_EQ(archivio({"verifica", path}).status, 0);
+}
+
+TEST_F(CibraArchivioTest, CopiesThatAnybodyCanReadAreNamedWhenTheArchiveIsProtected)
+{
+    creaArchivioNuovo(path);
+    {
+        Connection archive;
+        ASSERT_TRUE(archive.Open(path));
+        FaiCopia(archive, QDateTime(QDate(2025, 3, 2), QTime(10, 20)));
+        FaiCopia(archive, QDateTime(QDate(2025, 3, 3), QTime(10, 20)));
+    }
+    const Result done = archivio({"proteggi", path}, "segreta\nsegreta\n");
+    EXPECT_EQ(done.out,
+              QString("L'archivio \"%1\" è protetto.\nAttenzione: le copie di sicurezza fatte prima non hanno "
+                      "password e si leggono ancora: 2 in \"%2/Copie\".\n")
+                  .arg(path, folder.path()));
+}
+
+TEST_F(CibraArchivioTest, ACopyIsPutBackWithThePasswordFromTheInput)
+{
+    creaArchivioNuovo(path);
+    const QString copy = folder.path("copia.db");
+    ASSERT_TRUE(QFile::copy(path, copy));
+    ASSERT_EQ(archivio({"proteggi", copy}, "segreta\nsegreta\n").status, 0);
+    for (const char *input : {"", "\n", "altra\n"}) {
+        const Result refused = archivio({"ripristina", copy, path}, input);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_EQ(refused.err, QByteArray(input).trimmed().isEmpty()
+                                   ? "cibra-archivio: L'archivio è protetto da una password\n"
+                                   : "cibra-archivio: Password non valida\n");
+    }
+    const Result done = archivio({"ripristina", copy, path}, "segreta\n");
+    EXPECT_EQ(done.status, 0) << done.err.toStdString();
+    const QStringList kept = CopieDi(path);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(done.out, QString("L'archivio \"%1\" è di nuovo quello della copia \"%2\".\nQuello di prima è in "
+                                "\"%3\".\n")
+                            .arg(path, copy, kept.constFirst()));
+    Connection archive;
+    EXPECT_TRUE(archive.Open(path, "segreta"));
 }
 
 } // namespace

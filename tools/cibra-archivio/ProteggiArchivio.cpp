@@ -1,86 +1,32 @@
 #include "ProteggiArchivio.h"
 
-#include "ArchivioInUso.h"
-#include "FileProvvisorio.h"
+#include "CambiaPassword.h"
+#include "core/CopieDiSicurezza.h"
 #include "platform/Failure.h"
-#include "platform/store/ArchiveFile.h"
-#include "platform/store/Connection.h"
-#include "platform/store/Recordset.h"
 
 #include <QFile>
-#include <QFileInfo>
-
-namespace {
-
-Failure rifiuto(const QString &words)
-{
-    return Failure(FailureNumber::PathAccess, words);
-}
-
-void apriInChiaro(Connection &archive, const QString &path)
-{
-    const OpenResult opened = archive.Open(path);
-    if (opened.outcome == OpenOutcome::PasswordRichiesta)
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" ha già una password").arg(path));
-    if (!opened)
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" non si apre: %2").arg(path, opened.words));
-    if (const QStringList faults = integrityCheck(path); !faults.isEmpty())
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" è danneggiato: %2").arg(path, faults.first()));
-}
-
-qint64 righe(Connection &archive, const QString &table)
-{
-    Recordset count;
-    count.Open(QStringLiteral("SELECT Count(*) AS Righe FROM [%1]").arg(table), archive, Recordset::Access::ReadOnly);
-    return qint64(count.value(0).number());
-}
-
-QStringList tabelle(Connection &archive)
-{
-    Recordset rows;
-    rows.Open(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"), archive,
-              Recordset::Access::ReadOnly);
-    QStringList names;
-    for (; !rows.Eof(); rows.MoveNext())
-        names += rows.value(0).text();
-    return names;
-}
-
-// The copy must open with the password, be sound and hold every row of the original.
-void controllaCopia(Connection &original, const QString &path, const QString &password)
-{
-    Connection copy;
-    if (const OpenResult opened = copy.Open(path, password); !opened)
-        throw rifiuto(QStringLiteral("La copia protetta non si apre: %1").arg(opened.words));
-    if (const QStringList faults = integrityCheck(path, password); !faults.isEmpty())
-        throw rifiuto(QStringLiteral("La copia protetta è danneggiata: %1").arg(faults.first()));
-    const QStringList names = tabelle(original);
-    if (tabelle(copy) != names)
-        throw rifiuto(QStringLiteral("La copia protetta non ha tutte le tabelle"));
-    for (const QString &table : names)
-        if (righe(original, table) != righe(copy, table))
-            throw rifiuto(QStringLiteral("La copia protetta non ha tutte le righe di \"%1\"").arg(table));
-}
-
-} // namespace
 
 void proteggiArchivio(const QString &told, const QString &password)
 {
     if (password.isEmpty())
-        throw rifiuto(QStringLiteral("La password è vuota"));
-    // The file itself, so that a link to it stays a link.
-    const QString path = QFileInfo(told).canonicalFilePath();
-    if (!QFileInfo(path).isFile())
-        throw rifiuto(QStringLiteral("Il file \"%1\" non c'è").arg(told));
-
-    const FileProvvisorio copy(path);
-    {
-        Connection original;
-        apriInChiaro(original, path);
-        copyEncrypted(path, copy.path(), password);
-        controllaCopia(original, copy.path(), password);
+        throw Failure(FailureNumber::PathAccess, QStringLiteral("La password è vuota"));
+    const QString path = fileDellArchivio(told);
+    try {
+        cambiaPassword(path, {}, password);
+    } catch (const Failure &failure) {
+        if (failure.number() != FailureNumber::LoginRefused)
+            throw;
+        throw Failure(FailureNumber::PathAccess, QStringLiteral("L'archivio \"%1\" ha già una password").arg(path));
     }
-    rifiutaInUso(path);
-    QFile::setPermissions(copy.path(), QFileInfo(path).permissions());
-    copy.sostituisciOriginale();
+}
+
+QStringList copieInChiaro(const QString &path)
+{
+    QStringList plain;
+    for (const QString &copy : CopieDi(path)) {
+        QFile file(copy);
+        if (file.open(QIODevice::ReadOnly) && file.read(6) == "SQLite")
+            plain += copy;
+    }
+    return plain;
 }

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 // Encrypts the archive in place: a copy beside it is encrypted, opened again with the password, compared with the
 // original and only then put in its place. Throws Failure, the original being as it was: where it is no sound plain
 // archive, where another program has it open, where the copy cannot be written, or where `password` is empty.
 void proteggiArchivio(const QString &path, const QString &password);
+
+// The safety copies of the archive that anybody can read still: those made before it had a password.
+QStringList copieInChiaro(const QString &path);

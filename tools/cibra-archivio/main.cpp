@@ -7,10 +7,14 @@
 #include "platform/Failure.h"
 #include "PreparaCartella.h"
 #include "ProteggiArchivio.h"
+#include "RipristinaArchivio.h"
+#include "SproteggiArchivio.h"
 #include "VerificaArchivio.h"
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QDateTime>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <cstdio>
@@ -27,6 +31,7 @@ const QString kLettura = QStringLiteral("leggi-mdb"); // the reading process of 
 constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
      cibra-archivio importa VECCHIO.mdb NUOVO
      cibra-archivio verifica --ripara FILE
+     cibra-archivio ripristina COPIA ARCHIVIO
 
   nuovo FILE        crea un archivio vuoto, con tutte le tabelle
   esempio FILE      crea un archivio con il catalogo di esempio
@@ -40,6 +45,10 @@ constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
   verifica --ripara FILE
                     se sono rovinati solo gli indici, li rifà
   proteggi FILE     dà una password all'archivio (chiesta due volte)
+  sproteggi FILE    toglie la password all'archivio
+  ripristina COPIA ARCHIVIO
+                    rimette una copia di sicurezza al posto dell'archivio;
+                    quello di adesso resta nella cartella Copie
 
   manutenzione COMANDO FILE
                     esegue su un archivio uno dei comandi per i testi dei piatti:
@@ -52,9 +61,10 @@ constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
     calorie         copia in Piatti le calorie di newPiatti
 Piatti.txt sta in prova/TestiCibra della cartella del programma.
 
-Nessun comando sovrascrive un file che c'è già; proteggi e verifica --ripara
-sostituiscono l'archivio solo quando la copia nuova è controllata. Una password
-si scrive al terminale, oppure arriva come riga dell'ingresso.
+Nessun comando sovrascrive un file che c'è già; proteggi, sproteggi, ripristina e
+verifica --ripara sostituiscono l'archivio solo quando la copia nuova è
+controllata. Una password si scrive al terminale, oppure arriva come riga
+dell'ingresso.
 
 Stato di uscita: 0 fatto, 1 non riuscito o archivio con difetti, 2 uso errato,
 3 il file da importare vuole una password che manca o non è quella giusta.
@@ -151,6 +161,42 @@ int proteggi(const QString &path)
         throw Failure(FailureNumber::NotPermitted, "Le due password sono diverse");
     proteggiArchivio(path, *first);
     scrivi(stdout, QStringLiteral("L'archivio \"%1\" è protetto.").arg(path));
+    if (const QStringList copies = copieInChiaro(path); !copies.isEmpty())
+        scrivi(stdout, QStringLiteral("Attenzione: le copie di sicurezza fatte prima non hanno password e si leggono "
+                                      "ancora: %1 in \"%2\".")
+                           .arg(copies.size())
+                           .arg(QFileInfo(copies.first()).path()));
+    return kBene;
+}
+
+int sproteggi(const QString &path)
+{
+    const std::optional<QString> password = chiediPassword("Password: ");
+    sproteggiArchivio(path, password.value_or(QString()));
+    scrivi(stdout, QStringLiteral("L'archivio \"%1\" non ha più una password.").arg(path));
+    return kBene;
+}
+
+QString rimetti(const QString &copy, const QString &path)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    try {
+        return ripristinaArchivio(copy, path, {}, now);
+    } catch (const Failure &failure) {
+        const std::optional<QString> password =
+            failure.number() == FailureNumber::LoginRefused ? chiediPassword("Password della copia: ") : std::nullopt;
+        if (!password || password->isEmpty())
+            throw;
+        return ripristinaArchivio(copy, path, *password, now);
+    }
+}
+
+int ripristina(const QString &copy, const QString &path)
+{
+    const QString kept = rimetti(copy, path);
+    scrivi(stdout, QStringLiteral("L'archivio \"%1\" è di nuovo quello della copia \"%2\".").arg(path, copy));
+    if (!kept.isEmpty())
+        scrivi(stdout, QStringLiteral("Quello di prima è in \"%1\".").arg(kept));
     return kBene;
 }
 
@@ -162,6 +208,8 @@ int eseguiConDue(const QString &command, const QString &first, const QString &se
         return ripara(second);
     if (command == "manutenzione")
         return manutenzione(first, second) ? kBene : kUsoErrato;
+    if (command == "ripristina")
+        return ripristina(first, second);
     return kUsoErrato;
 }
 
@@ -181,6 +229,8 @@ int esegui(const QString &command, const QString &path)
         return verifica(path);
     else if (command == "proteggi")
         return proteggi(path);
+    else if (command == "sproteggi")
+        return sproteggi(path);
     else
         return kUsoErrato;
     return kBene;
