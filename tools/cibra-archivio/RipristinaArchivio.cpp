@@ -28,7 +28,7 @@ void apriCopia(Connection &copy, const QString &path, const QString &password)
 {
     if (!QFileInfo(path).isFile())
         throw rifiuto(QStringLiteral("Il file \"%1\" non c'è").arg(path));
-    const OpenResult opened = copy.Open(path, password);
+    const OpenResult opened = copy.OpenForInspection(path, password);
     if (opened.outcome == OpenOutcome::PasswordRichiesta)
         throw Failure(FailureNumber::LoginRefused, opened.words);
     if (!opened)

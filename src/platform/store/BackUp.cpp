@@ -3,10 +3,10 @@
 #include "platform/store/ConnectionPrivate.h"
 #include "platform/store/EngineFailure.h"
 #include "platform/store/JetFunctions.h"
+#include "platform/store/NewFile.h"
 #include "platform/store/Statement.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <memory>
 
@@ -32,32 +32,6 @@ void check(sqlite3 *copy, int rc)
     if (rc != SQLITE_OK)
         throw copyFailure(copy, rc);
 }
-
-// A file that the copy is written into: it goes away again unless all went well, and nobody else may read it so far.
-class CopyFile
-{
-public:
-    explicit CopyFile(const QString &path) : m_path(path)
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
-            throw Failure::usual(FailureNumber::PathAccess,
-                                 QFileInfo::exists(path) ? path + QStringLiteral(" esiste già") : path);
-    }
-    ~CopyFile()
-    {
-        if (!m_done)
-            QFile::remove(m_path);
-    }
-    CopyFile(const CopyFile &) = delete;
-    CopyFile &operator=(const CopyFile &) = delete;
-
-    void keep() { m_done = true; }
-
-private:
-    QString m_path;
-    bool m_done = false;
-};
 
 // The program that starts or expands does not stand still for a copy.
 class WithoutWaiting
@@ -118,7 +92,8 @@ void checkPages(sqlite3 *copy)
 void backUp(Connection &from, const QString &to)
 {
     Database &original = from.engine().opened();
-    CopyFile file(to);
+    NewFile file(to);
+    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner); // nobody else reads it so far
     {
         const Handle copy = openCopy(to, original.key());
         copyPages(original.handle(), copy.get());
