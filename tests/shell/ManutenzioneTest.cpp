@@ -164,7 +164,7 @@ TEST_F(ManutenzioneTest, TheImportReadsTheFoodsOfBothBlocks)
 
 TEST_F(ManutenzioneTest, TargetsWithADecimalCommaOrThousandsReachBothPersonsRows)
 {
-    const QString text =
+    const QByteArray text =
         "\r\nPasta\r\n\r\n- Spaghetti (80 gr.)\r\n" + kStars + " \r\n\r\nPasta\r\n\r\n- Spaghetti (100 gr.)\r\n";
     for (const auto &[first, second, row] : {std::tuple("1557,5", "1723,5", "1557,5 | (100 gr.) | 1723,5"),
                                              {"1.100", "1.500", "1100 | (100 gr.) | 1500"}}) {
