@@ -115,9 +115,13 @@ void FrmCibra::recalculate(int index)
 // that could not be stored, which the user has been told.
 bool FrmCibra::leaveTypedBoxes()
 {
-    for (const auto &[index, box] : campi())
-        if (box->isChanged())
-            TxtFields_LostFocus(index);
+    for (const auto &[index, box] : campi()) {
+        if (!box->isChanged())
+            continue;
+        TxtFields_LostFocus(index);
+        if (Datsecondaryrs->isPending()) // one message is enough
+            return false;
+    }
     if (Datsecondaryrs->isPending())
         comando("txtFields_LostFocus ", [this] {
             writeRow();
