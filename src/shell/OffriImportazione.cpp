@@ -11,8 +11,9 @@ namespace {
 const QString kTitle = QStringLiteral("Importazione archivio");
 const QString kPasswordQuestion = QStringLiteral("Inserisci la password per accedere al database");
 constexpr int kDone = 0;
-constexpr int kPasswordAsked = 3; // what the tool ends with where the password lacks or is wrong
-constexpr int kBreath = 30;       // milliseconds between two signs of life
+constexpr int kPasswordAsked = 3;    // what the tool ends with where the password lacks or is wrong
+constexpr qsizetype kMostLines = 22; // of a report, on a screen of 720 points
+constexpr int kBreath = 30;          // milliseconds between two signs of life
 
 struct Esito
 {
@@ -102,6 +103,15 @@ bool EArchivioJet(const QString &path)
     return file.open(QIODevice::ReadOnly) && file.read(32).mid(4).startsWith("Standard Jet DB");
 }
 
+QString RapportoInBreve(const QString &rapporto)
+{
+    const QStringList lines = rapporto.split(u'\n');
+    if (lines.size() <= kMostLines)
+        return rapporto;
+    const QStringList shown = lines.first(kMostLines - 1);
+    return shown.join(u'\n') + QStringLiteral("\n... e altre %1 righe").arg(lines.size() - shown.size());
+}
+
 QString OffriImportazione(ModNetServer &modulo, const QString &cartella, const QString &file)
 {
     const QDir folder(cartella);
@@ -113,7 +123,8 @@ QString OffriImportazione(ModNetServer &modulo, const QString &cartella, const Q
         modulo.mondo.dialoghi.MsgBox(result.motivo, MsgFlags::Critical, kTitle);
         return {};
     }
-    modulo.mondo.dialoghi.MsgBox(QStringLiteral("Il nuovo archivio è \"%1\".\n\n%2").arg(name, result.rapporto),
-                                 MsgFlags::Information, kTitle);
+    modulo.mondo.dialoghi.MsgBox(
+        QStringLiteral("Il nuovo archivio è \"%1\".\n\n%2").arg(name, RapportoInBreve(result.rapporto)),
+        MsgFlags::Information, kTitle);
     return name;
 }

@@ -6,6 +6,9 @@
 // Whether `path` (native) is a file of the Jet engine, by its beginning.
 bool EArchivioJet(const QString &path);
 
+// The lines of a report that a message box has room for, with a word on those that it has not.
+QString RapportoInBreve(const QString &rapporto);
+
 // Asks whether the old archive `file` of the native folder `cartella` is to be imported, and on Yes makes the new one
 // beside it, under its name with the ending .db, or with a number where that is taken; the old one stays as it is. A
 // password is asked for where the file has one. Tells what came of it.

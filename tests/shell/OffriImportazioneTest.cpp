@@ -107,6 +107,17 @@ TEST_F(OffriImportazioneTest, APasswordIsAskedForOnceAndAWrongOneIsTold)
     EXPECT_EQ(rowCounts(world.cartella.path("casa.db"), "segreta").value("SchedaPranzo"), 60);
 }
 
+TEST_F(OffriImportazioneTest, ALongReportIsShownAsFarAsItFits)
+{
+    QStringList lines;
+    for (int i = 1; i <= 22; ++i)
+        lines += QString("riga %1").arg(i);
+    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')), lines.join(u'\n'));
+    const QStringList longer = lines + QStringList({"riga 23", "riga 24"});
+    EXPECT_EQ(RapportoInBreve(longer.join(u'\n')), lines.mid(0, 21).join(u'\n') + "\n... e altre 3 righe");
+    EXPECT_EQ(RapportoInBreve(""), "");
+}
+
 TEST_F(OffriImportazioneTest, AnArchiveOfThisProgramIsTakenWithoutAWord)
 {
     makeTestArchive(world.cartella.path("casa.mdb"));
