@@ -1,13 +1,15 @@
 // The daily sheet's window on ten years of sheets against one year: what grows with the years must not be felt.
+#include "BareEngine.h"
 #include "Ratios.h"
 #include "SheetYears.h"
 
 #include "platform/ui/DataCombo.h"
 #include "platform/ui/FormHost.h"
 #include "platform/ui/FormRegistry.h"
+#include "road/RoadWorld.h"
 #include "sheet/forms/FrmCibra.h"
-#include "support/TestWorld.h"
 
+#include <QAction>
 #include <QFile>
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -18,22 +20,18 @@ namespace {
 
 constexpr int kDayStep = 37; // from one looked-up day to the next
 
-// A program on a copy of the years' archive, standing in the middle of the first year.
+// A program on a copy of the years' archive, standing on the first day.
 class SheetWorld
 {
 public:
     explicit SheetWorld(const SheetYears &years) : m_years(years)
     {
-        const QString copy = m_world.cartella.path("\\Anni.Mdb");
-        QFile::copy(years.path(), copy);
-        m_world.orologio.when = QDateTime(QDate(2020, 6, 15), QTime(12, 0));
-        m_world.setHousehold();
-        m_world.modulo.PercorsoDbDati = copy;
-        m_world.modulo.ConnessioneDati = std::make_unique<Connection>();
-        if (!m_world.modulo.ConnessioneDati->Open(copy))
-            throw std::runtime_error("the years' archive cannot be opened");
+        m_road.close();
+        if (!QFile::remove(m_road.archivePath()) || !QFile::copy(years.path(), m_road.archivePath()))
+            throw std::runtime_error("the years' archive cannot be copied");
+        m_road.open();
         m_registry.setFactory<FrmCibra>(
-            [this] { return std::make_unique<FrmCibra>(m_host, m_registry, m_world.modulo); });
+            [this] { return std::make_unique<FrmCibra>(m_host, m_registry, m_road.modulo()); });
     }
     ~SheetWorld() { m_registry.dropAll(); }
     SheetWorld(const SheetWorld &) = delete;
@@ -51,7 +49,7 @@ public:
 private:
     const SheetYears &m_years;
     int m_day = 0;
-    TestWorld m_world;
+    RoadWorld m_road;
     FormHost m_host;
     FormRegistry m_registry;
 };
@@ -94,6 +92,27 @@ Measured portionEdited(const SheetYears &(*years)())
     };
 }
 
+// Every row of the ten years in the overview grid.
+void overviewOpened(benchmark::State &state)
+{
+    SheetWorld world(SheetYears::shared());
+    auto *const entry = world.open().findChild<QAction *>("mnuGriglia");
+    for ([[maybe_unused]] auto round : state) {
+        entry->trigger();
+        state.PauseTiming();
+        entry->trigger();
+        state.ResumeTiming();
+    }
+}
+
+void readTenYears(benchmark::State &state)
+{
+    BareEngine engine(SheetYears::shared().path());
+    engine.prepare("SELECT * FROM SchedaPranzo ORDER BY dataInserimento DESC, rowid");
+    for ([[maybe_unused]] auto round : state)
+        benchmark::DoNotOptimize(engine.readAll());
+}
+
 // The list of days grows with the years, the rest does not.
 [[maybe_unused]] const bool kRegistered = [] {
     measurePair("sheet opened, ten years against one", 5, formOpened(SheetYears::shared),
@@ -101,6 +120,7 @@ Measured portionEdited(const SheetYears &(*years)())
     measurePair("a day found, ten years against one", 2, dayFound(SheetYears::shared), dayFound(SheetYears::ofOneYear));
     measurePair("a portion edited, ten years against one", 2, portionEdited(SheetYears::shared),
                 portionEdited(SheetYears::ofOneYear));
+    measurePair("all days of ten years in the overview", 4, overviewOpened, readTenYears);
     return true;
 }();
 

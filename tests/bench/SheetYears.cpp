@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr int kYear = 366; // 2020
+constexpr int kYear = 365;
 constexpr int kTenYears = 3652;
 constexpr int kRowsOfTenYears = 125000;
-const QDate kFirstDay(2020, 1, 1);
+const QDate kFirstDay(2025, 1, 1);
 
 QString schema()
 {
@@ -31,7 +31,7 @@ QString sheetRows(int days)
                "KcNominale,"
                " Totale1, quantita2, KcNominale2, Totale2) "
                "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
-               "SELECT strftime('%d/%m/%Y', date('2020-01-01', '+' || (i * 3652 / 125000) || ' days')), "
+               "SELECT strftime('%d/%m/%Y', date('2025-01-01', '+' || (i * 3652 / 125000) || ' days')), "
                "CASE i % 5 WHEN 0 THEN 'Colazione' WHEN 1 THEN 'Pranzo' WHEN 2 THEN 'Cena' ELSE 'Spuntino' END, "
                "'Piatto numero ' || (i * 7 % 160), 'Alimento con nome ' || (i * 13 % 400), 50.0 + i % 300, 20.0 + i % "
                "180, "

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QToolButton>
 
 namespace {
 
@@ -244,6 +245,28 @@ TEST_F(FrmCibraTest, TotaliSumsTheDayAgainAndLeavesTheRowsOnShow)
     form().Totali();
     EXPECT_EQ(totals(), QStringList({"351", "570"}));
     EXPECT_EQ(grid().model()->index(0, 7).data().toString(), "100");
+}
+
+TEST_F(FrmCibraTest, PicturesShowWhereTheyLieBesideTheProgramAndNothingIsMissedWithoutThem)
+{
+    show();
+    EXPECT_FALSE(visible("LogoEmail"));
+    world.cartella.makeFolder("\\Picture");
+    QImage drawing(300, 100, QImage::Format_RGB32);
+    drawing.fill(Qt::red);
+    ASSERT_TRUE(drawing.save(world.cartella.path("\\Picture\\Menu.jpg")));
+    ASSERT_TRUE(drawing.save(world.cartella.path("\\Picture\\EmailVerticalejpg.jpg")));
+    registry.dropAll();
+    show();
+    EXPECT_TRUE(visible("LogoEmail"));
+    EXPECT_EQ(control<QToolButton>("ImgMarvo").iconSize(), QSize(156, 52));
+}
+
+TEST_F(FrmCibraTest, TheNotesOfTheFormOpenByTheirButton)
+{
+    show();
+    click("ImgMarvo");
+    EXPECT_EQ(world.programmi.started, QStringList("TextViewer " + world.cartella.path("\\testi\\FrmCibra.txt")));
 }
 
 TEST_F(FrmCibraTest, TheCalculatorStartsFromTheMenu)
