@@ -10,6 +10,7 @@
 #include "sheet/forms/FrmCibra.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFocusEvent>
 #include <QLineEdit>
