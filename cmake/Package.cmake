@@ -11,6 +11,7 @@ install(FILES packaging/copyright archive/Fonti.csv CHANGELOG.md DESTINATION sha
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 
 file(READ "${CMAKE_SOURCE_DIR}/packaging/description.txt" description)
+string(STRIP "${description}" description) # an empty line would end the package's description of itself
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME cibra)
 set(CPACK_PACKAGE_CONTACT "Cibra <cibra@example.org>")
