@@ -394,6 +394,9 @@ TEST_F(FrmCategorieTest, NextAndPreviousHideTheErrorImage)
     EXPECT_TRUE(world.schermate.erroreVisibile);
     click("cmdNext");
     EXPECT_FALSE(world.schermate.erroreVisibile);
+    world.schermate.erroreVisibile = true;
+    click("cmdPrevious");
+    EXPECT_FALSE(world.schermate.erroreVisibile);
 }
 
 TEST_F(FrmCategorieTest, EnterGoesToTheNextFieldAndPressesNothing)
