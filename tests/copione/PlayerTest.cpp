@@ -193,9 +193,12 @@ class PlayerTest : public testing::Test
 {
 protected:
     TemporaryFolder pictures;
+    // Milliseconds; long, as machines may be slow. Short where a test waits in vain.
+    int waitForWindow = 60'000;
+    int waitForHandler = 60'000;
 
     // Plays a script and gives what it printed, then its failure, then the status where it is not 0.
-    QString play(const QString &script, int timeout = 20'000)
+    QString play(const QString &script)
     {
         FormHost host;
         host.report = [](const Failure &failure) { FAIL() << failure.what(); };
@@ -217,7 +220,7 @@ protected:
 
         QString output;
         QTextStream stream(&output);
-        const PlayerSettings settings{"prova.copione", pictures.path(), 200, timeout};
+        const PlayerSettings settings{"prova.copione", pictures.path(), waitForWindow, waitForHandler};
         const int status = Player(parseScript(script), stage, settings, stream, stream).play();
         return status == 0 ? output : output + QString("= %1").arg(status);
     }
@@ -330,6 +333,7 @@ TEST_F(PlayerTest, WhatIsHiddenOrDisabledCannotBeReached)
 
 TEST_F(PlayerTest, WhatIsNotThereFailsAfterAWaitAndTellsWhatWasOnScreen)
 {
+    waitForWindow = 200;
     EXPECT_EQ(play("start\nclick Prova.Nessuno"), "prova.copione:2: there is no control Prova.Nessuno; on screen: "
                                                   "[[\"form\",\"Prova\",\"Finestra di prova\"]]\n= 1");
     EXPECT_EQ(play("start\nmsg"), "prova.copione:2: no message box is in front; on screen: "
@@ -370,7 +374,7 @@ TEST_F(PlayerTest, ProgramsAndBeepsAreRecordedAndForgottenWhenAsked)
 
 TEST_F(PlayerTest, AKeyComesLaterWhileAHandlerIsAtWork)
 {
-    EXPECT_EQ(traceOf("later 100 Prova \"Esc\"\nclick Prova.Command4"), "\"resize 600;fermato;\"");
+    EXPECT_EQ(traceOf("later 1000 Prova \"Esc\"\nclick Prova.Command4"), "\"resize 600;fermato;\"");
 }
 
 TEST_F(PlayerTest, TheEndOfTheProgramIsSeen)
@@ -404,8 +408,9 @@ TEST_F(PlayerTest, APictureIsWrittenOfTheWindowInFront)
 TEST_F(PlayerTest, AHandlerThatNeverEndsIsCutOff)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(play("start\nclick Prova.Command5", 300), testing::ExitedWithCode(1),
-                "prova.copione:2: a handler was at work for more than 0.3 s; on screen: .*Prova");
+    waitForHandler = 2500;
+    EXPECT_EXIT(play("start\nclick Prova.Command5"), testing::ExitedWithCode(1),
+                "prova.copione:2: a handler was at work for more than 2.5 s; on screen: .*Prova");
 }
 
 } // namespace

@@ -37,10 +37,16 @@ public:
     QLineEdit *line = new QLineEdit;
     QPushButton *button = new QPushButton(QStringLiteral("Conferma"));
     QComboBox *combo = new QComboBox;
-    std::function<void()> atLoad, atResize, atUnload, atClick;
+    std::function<void()> atLoad, atStep, atResize, atUnload, atClick;
     static inline QStringList events;
 
 protected:
+    void resizeEvent(QResizeEvent *event) override // a step of the window system, before it has become a resize
+    {
+        Form::resizeEvent(event);
+        if (atStep)
+            atStep();
+    }
     void Form_Load() override { happen("load", atLoad); }
     void Form_Resize() override { happen("resize", atResize); }
     void Form_Unload() override { happen("unload", atUnload); }
@@ -71,7 +77,13 @@ protected:
 
     // Does something once the event loop, at whatever depth, comes to it.
     static void soon(std::function<void()> what) { QTimer::singleShot(0, std::move(what)); }
-    static void settle() { QTest::qWait(150); }
+    // Lets everything that waits in the event loop happen, deletions too.
+    static void settle() { QTest::qWait(0); }
+    static bool resizeEnds(const Form &form)
+    {
+        settle(); // what the window system has sent
+        return QTest::qWaitFor([&] { return !form.isResizePending(); }, 60'000);
+    }
 
     FormHost host;
 };
@@ -130,12 +142,16 @@ TEST_F(FormTest, EachChangeOfSizeByTheUserIsOneResize)
     form.showModeless();
     EXPECT_EQ(Probe::events.count("resize"), 1);
     form.windowHandle()->resize(500, 400);
-    settle();
+    EXPECT_TRUE(resizeEnds(form));
     EXPECT_EQ(Probe::events.count("resize"), 2);
-    form.windowHandle()->resize(510, 400); // two steps of one dragging
-    QTest::qWait(5);
-    form.windowHandle()->resize(520, 400);
-    settle();
+    int steps = 0; // of one dragging
+    form.atStep = [&] {
+        if (++steps == 1)
+            form.windowHandle()->resize(520, 400);
+    };
+    form.windowHandle()->resize(510, 400);
+    EXPECT_TRUE(resizeEnds(form));
+    EXPECT_EQ(steps, 2);
     EXPECT_EQ(Probe::events.count("resize"), 3);
 }
 
@@ -145,7 +161,7 @@ TEST_F(FormTest, ChangesOfSizeByCodeAreNoResize)
     form.showModeless();
     form.resize(640, 480);
     form.setMinimumWidth(700);
-    settle();
+    EXPECT_TRUE(resizeEnds(form));
     EXPECT_EQ(form.width(), 700);
     EXPECT_EQ(Probe::events.count("resize"), 1);
 }
@@ -154,10 +170,10 @@ TEST_F(FormTest, AHiddenFormIsNotResized)
 {
     Probe form(host);
     form.showModeless();
+    form.atStep = [&] { form.hide(); };
     form.windowHandle()->resize(500, 400);
-    QTest::qWait(5);
-    form.hide();
-    settle();
+    EXPECT_TRUE(resizeEnds(form));
+    EXPECT_FALSE(form.isVisible());
     EXPECT_EQ(Probe::events.count("resize"), 1);
 }
 
@@ -169,12 +185,12 @@ TEST_F(FormTest, ResizeIsNotReentered)
         deepest = std::max(deepest, ++depth);
         if (Probe::events.count("resize") == 1) {
             form.windowHandle()->resize(500, 400);
-            settle();
+            QTest::qWait(150); // for longer than a resize takes to come
         }
         --depth;
     };
     form.showModeless();
-    settle();
+    EXPECT_TRUE(resizeEnds(form));
     EXPECT_EQ(deepest, 1);
     EXPECT_EQ(Probe::events.count("resize"), 2);
 }
