@@ -1,7 +1,8 @@
 #include "catalogue/forms/CreaGruppo.h"
 
-#include "catalogue/FormWorld.h"
+#include "catalogue/CatalogueRows.h"
 #include "platform/ui/DataCombo.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 

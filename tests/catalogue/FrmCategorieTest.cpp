@@ -2,9 +2,8 @@
 
 #include "platform/ui/DataCombo.h"
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/FormRegistry.h"
 #include "platform/ui/StatusPanels.h"
-#include "support/TestWorld.h"
+#include "support/FormWorld.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -33,13 +32,11 @@ const QString kReminder =
     "all'attivazione della modalità di Ricerca, disattivando i commenti del codice. [OK!] 0 0 picture 27";
 const QString kAsk = "InputBox \"RICERCA\" Inserisci l'Alimento da ricercare";
 
-class FrmCategorieTest : public testing::Test
+class FrmCategorieTest : public testing::Test, protected FormWorld<FrmCategorie>
 {
 protected:
-    FrmCategorieTest() : dati(world.openArchive())
+    FrmCategorieTest()
     {
-        host.report = [this](const Failure &failure) { failures.append(failure.words()); };
-        registry.setFactory<FrmCategorie>([this] { return std::make_unique<FrmCategorie>(host, world.modulo); });
         insertRows(dati, "CategorieMaster", "ID, categorie", {"3, 'Bevande'", "4, 'Cereali'", "5, 'Frutta'"});
     }
     ~FrmCategorieTest() override { EXPECT_EQ(failures, QStringList()); }
@@ -50,7 +47,6 @@ protected:
                    {"1, 'Caffè d''orzo', 3, 20.5, 84, 100, '2020-01-31'", "2, 'Riso', 4, 350, Null, 100, Null",
                     "3, 'Risone', 4, 340, Null, 100, Null", "7, 'Zucca', 99, 26, Null, 80, Null"});
     }
-    FrmCategorie &form() { return registry.get<FrmCategorie>(); }
     void show(int level = 0)
     {
         world.modulo.LivelloUtente = level;
@@ -60,32 +56,11 @@ protected:
         world.dialoghi.takeBoxes();
         world.schermo.beeps = 0;
     }
-    template <class Control>
-    Control &control(const QString &name)
-    {
-        return *form().findChild<Control *>(name);
-    }
     QLineEdit &box(int index) { return control<QLineEdit>(QString("TxtFields_%1").arg(index)); }
     QString line() { return control<QLabel>("lblStatus").text(); }
     QString food() { return box(2).text(); }
     DataCombo &group() { return control<DataCombo>("DataCombo1"); }
     StatusPanels &bar() { return control<StatusPanels>("StatusBar1"); }
-    bool visible(const QString &name) { return !control<QWidget>(name).isHidden(); }
-    void click(const QString &button)
-    {
-        control<QAbstractButton>(button).click();
-        QApplication::processEvents();
-    }
-    void menu(const QString &entry)
-    {
-        control<QAction>(entry).trigger();
-        QApplication::processEvents();
-    }
-    void key(int key, Qt::KeyboardModifiers modifiers = {})
-    {
-        QTest::keyClick(form().focusWidget() ? form().focusWidget() : &form(), Qt::Key(key), modifiers);
-        QApplication::processEvents();
-    }
     void panel(int number) { QTest::mouseClick(bar().panelWidget(number), Qt::LeftButton); }
     void type(int index, const QString &text)
     {
@@ -111,12 +86,6 @@ protected:
     }
     QStringList boxes() { return world.dialoghi.takeBoxes(); }
     QString log() { return QString::fromLatin1(world.cartella.read("\\Errori\\ErrFrmCategorie.txt")); }
-
-    TestWorld world;
-    Connection &dati;
-    FormHost host;
-    FormRegistry registry;
-    QStringList failures;
 };
 
 // Load
@@ -470,7 +439,7 @@ TEST_F(FrmCategorieTest, EscAndF11CloseWithoutASaveOrAQuestion)
         show();
         type(4, "uno");
         key(how);
-        EXPECT_FALSE(registry.isLoaded<FrmCategorie>());
+        EXPECT_FALSE(isLoaded());
         EXPECT_EQ(boxes(), QStringList());
     }
     EXPECT_EQ(stored("Kcal", 1), "20,5");
@@ -481,7 +450,7 @@ TEST_F(FrmCategorieTest, EsciAndChiudiClose)
     for (const char *entry : {"MnuEsci", "MnuClose"}) {
         show();
         menu(entry);
-        EXPECT_FALSE(registry.isLoaded<FrmCategorie>()) << entry;
+        EXPECT_FALSE(isLoaded()) << entry;
     }
 }
 
@@ -579,7 +548,7 @@ TEST_F(FrmCategorieTest, EsciWhileInsertingSavesFirst)
     type(2, "Kiwi");
     menu("MnuEsci");
     EXPECT_EQ(stored("Alimento", 8), "Kiwi");
-    EXPECT_FALSE(registry.isLoaded<FrmCategorie>());
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(FrmCategorieTest, LevelSixMayDeleteAfterAQuestionAndTheNextFoodIsOnShow)

@@ -1,8 +1,9 @@
 #include "catalogue/forms/FrmMenu.h"
 
+#include "catalogue/CatalogueRows.h"
 #include "catalogue/forms/Sostituti.h"
-#include "catalogue/FormWorld.h"
 #include "platform/ui/DataCombo.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ class FrmMenuTest : public testing::Test, protected FormWorld<FrmMenu>
 protected:
     FrmMenuTest()
     {
-        registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, registry, world.modulo); });
+        addForm<Sostituti>();
         insertDishes(dati, {"'Insalata', 0, 0, 'Menu', 'Contorno'", "'Pasta', 0, 0, 'Menu', 'Pasta - Minestra'",
                             "'Riso', 0, 0, 'Menu', 'Pasta - Minestra'"});
         insertFoods(dati, {"'Pasta', 'Pasta', 350, 70, 245, 90, 315", "'Pasta', 'Olio', 900, 10, 90, 15, 135",

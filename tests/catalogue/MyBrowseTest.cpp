@@ -1,6 +1,6 @@
 #include "catalogue/forms/MyBrowse.h"
 
-#include "catalogue/FormWorld.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 

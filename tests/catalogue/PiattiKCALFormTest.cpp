@@ -1,6 +1,7 @@
 #include "catalogue/forms/PiattiKCAL.h"
 
-#include "catalogue/FormWorld.h"
+#include "catalogue/CatalogueRows.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,9 @@
 #include "catalogue/forms/Sostituti.h"
 
-#include "catalogue/FormWorld.h"
+#include "catalogue/CatalogueRows.h"
 #include "platform/ui/DataCombo.h"
 #include "platform/ui/EtichettaComando.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 

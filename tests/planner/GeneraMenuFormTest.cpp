@@ -3,7 +3,7 @@
 #include "catalogue/forms/InserimentoKCal.h"
 #include "planner/PlannerTest.h"
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/FormRegistry.h"
+#include "support/FormWorld.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,28 +17,13 @@
 
 namespace {
 
-class GeneraMenuFormTest : public PlannerTest
+class GeneraMenuFormTest : public PlannerTest, protected FormHands<GeneraMenu>
 {
 protected:
-    GeneraMenuFormTest()
-    {
-        host.report = [this](const Failure &failure) { failures.append(failure.words()); };
-        registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, world.modulo); });
-        registry.setFactory<InserimentoKCal>(
-            [this] { return std::make_unique<InserimentoKCal>(host, registry, world.modulo); });
-    }
+    GeneraMenuFormTest() : FormHands(world.modulo) { addForm<InserimentoKCal>(); }
 
-    GeneraMenu &form() { return registry.get<GeneraMenu>(); }
-    template <class Control>
-    Control &control(const char *name)
-    {
-        return *form().findChild<Control *>(name);
-    }
     QLineEdit &box(const char *name) { return control<QLineEdit>(name); }
-    QString text(const char *name) { return box(name).text(); }
     QCheckBox &check(int number) { return control<QCheckBox>(qPrintable("Check" + QString::number(number))); }
-    void click(const char *name) { control<QAbstractButton>(name).click(); }
-    void choose(const char *entry) { control<QAction>(entry).trigger(); }
 
     // Which of the three panels shows.
     QString panel()
@@ -81,9 +66,9 @@ protected:
         question.clear();
         QTimer::singleShot(0, &form(), [this, answer] {
             auto &dialog = registry.get<InserimentoKCal>();
-            question = dialog.findChild<QLabel *>("Label1")->text();
+            question = controlOf<QLabel>(dialog, "Label1").text();
             if (answer)
-                dialog.findChild<QPushButton *>(answer)->click();
+                controlOf<QPushButton>(dialog, answer).click();
             else
                 QTest::keyClick(&dialog, Qt::Key_Escape);
         });
@@ -97,9 +82,6 @@ protected:
             insertRows(dati, "Menu", "DataMenu, Pranzo", {"#" + day + "#, 'Cuscus'"});
     }
 
-    FormHost host;
-    FormRegistry registry;
-    QStringList failures;
     QString question; // of the dialog for the person
 };
 
@@ -124,7 +106,7 @@ TEST_F(GeneraMenuFormTest, AHouseholdFileCutShortEndsTheLoadAndTheFormIsNotThere
 {
     world.cartella.write("\\ini\\Anagrafica.txt", "Ondira\r\nTesmo\r\n1100\r\n");
     EXPECT_THROW(form(), Failure);
-    EXPECT_FALSE(registry.isLoaded<GeneraMenu>());
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(GeneraMenuFormTest, ConfirmingSavesTheBoxesAsTheyStandAndLeadsToTheGeneration)
@@ -202,7 +184,7 @@ TEST_F(GeneraMenuFormTest, ChangingTheGenerationRangeShowsNoOtherPanelChangingTh
 
 TEST_F(GeneraMenuFormTest, TypingInTheMiddleOfADayKeepsTheCaret)
 {
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     form().show();
     box("Text3").setFocus();
     box("Text3").setCursorPosition(1);
@@ -261,18 +243,18 @@ TEST_F(GeneraMenuFormTest, ARememberedChoiceCutShortEndsTheLoad)
 {
     world.cartella.write("\\Check.log", "8\r\n9\r\n");
     EXPECT_THROW(form(), Failure);
-    EXPECT_FALSE(registry.isLoaded<GeneraMenu>());
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(GeneraMenuFormTest, TheMenuShowsOnePanelAtATime)
 {
-    choose("mnuCrea");
+    menu("mnuCrea");
     EXPECT_EQ(panel(), "Frame1");
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     EXPECT_EQ(panel(), "Frame2");
-    choose("mnuAnagrafica");
+    menu("mnuAnagrafica");
     EXPECT_EQ(panel(), "Frame3");
-    choose("mnuCrea");
+    menu("mnuCrea");
     form().showHousehold();
     EXPECT_EQ(panel(), "Frame3");
 }
@@ -280,7 +262,7 @@ TEST_F(GeneraMenuFormTest, TheMenuShowsOnePanelAtATime)
 TEST_F(GeneraMenuFormTest, GeneratingWithoutGoingOnLeavesTheMenusInTheGrid)
 {
     fillCatalogue();
-    choose("mnuCrea");
+    menu("mnuCrea");
     box("Text2").setText("04/03/2025");
     check(3).click();
     world.dialoghi.answer(MsgAnswer::No);
@@ -318,9 +300,9 @@ TEST_F(GeneraMenuFormTest, GeneratingAndGoingOnFillsTheSheets)
 
 TEST_F(GeneraMenuFormTest, AnEmptyRangeLeadsBackToTheGenerationWithCaptionAndBarAsTheyStand)
 {
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     world.dialoghi.answer(MsgAnswer::Si);
-    choose("mnuGenera");
+    menu("mnuGenera");
     EXPECT_EQ(world.dialoghi.boxes().last(), "MsgBox 16 \"KO\" Non hai ancora generato i menu da compilare");
     EXPECT_EQ(panel(), "Frame1");
     EXPECT_EQ(form().windowTitle(), "GENERA nella tabella SCHEDAPRANZO i menu creati nella tabella MENU");
@@ -354,7 +336,7 @@ TEST_F(GeneraMenuFormTest, TheEntriesOfTheMenuStandInTheirOrder)
 TEST_F(GeneraMenuFormTest, AFailingGenerationIsToldOnceAndTheFormLivesOn)
 {
     fillCatalogue();
-    choose("mnuCrea");
+    menu("mnuCrea");
     check(3).click();
     box("Freq_3").setText("spesso");
     click("Command1");
@@ -371,7 +353,7 @@ TEST_F(GeneraMenuFormTest, AFailingGenerationIsToldOnceAndTheFormLivesOn)
 TEST_F(GeneraMenuFormTest, AHalfTypedDayLeavesTheGridAsItIs)
 {
     addDays({"3/2/2025", "3/4/2025"});
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     EXPECT_EQ(gridDays(), QStringList({"02/03/2025", "04/03/2025"}));
     for (const char *typed : {"03/03/202", "", "0", "03", "03/", "03/0", "30/02/2025"}) {
         box("Text3").setText(typed);
@@ -387,7 +369,7 @@ TEST_F(GeneraMenuFormTest, AHalfTypedDayLeavesTheGridAsItIs)
 TEST_F(GeneraMenuFormTest, AfterADeletionTheRangeIsThatOfTheTableAndTheWholeTableShows)
 {
     addDays({"3/20/2025", "5/1/2025", "3/18/2025", "3/21/2025", "4/13/2025"});
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     box("Text3").setText("19/03/2025");
     box("Text4").setText("31/03/2025");
     world.dialoghi.answer(MsgAnswer::Si);
@@ -402,7 +384,7 @@ TEST_F(GeneraMenuFormTest, AfterADeletionTheRangeIsThatOfTheTableAndTheWholeTabl
 TEST_F(GeneraMenuFormTest, DeletingTheLastRowsFailsWithTheRowsGoneAndTheRangeAsItWas)
 {
     addDays({"3/20/2025"});
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     box("Text3").setText("13/03/2025");
     box("Text4").setText("31/03/2025");
     world.dialoghi.answer(MsgAnswer::Si);
@@ -415,7 +397,7 @@ TEST_F(GeneraMenuFormTest, DeletingTheLastRowsFailsWithTheRowsGoneAndTheRangeAsI
 TEST_F(GeneraMenuFormTest, ADeletionThatIsNotConfirmedChangesNothing)
 {
     addDays({"3/20/2025"});
-    choose("mnuVisualizza");
+    menu("mnuVisualizza");
     box("Text3").setText("13/03/2025");
     world.dialoghi.answer(MsgAnswer::No);
     click("Command2");
@@ -438,14 +420,14 @@ TEST_F(GeneraMenuFormTest, EscapeClosesTheForm)
     form().show();
     box("Text5").setFocus();
     QTest::keyClick(&box("Text5"), Qt::Key_Escape);
-    EXPECT_FALSE(registry.isLoaded<GeneraMenu>());
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(GeneraMenuFormTest, TheEntryEsciClosesTheForm)
 {
     form().show();
-    choose("mnuEsci");
-    EXPECT_FALSE(registry.isLoaded<GeneraMenu>());
+    menu("mnuEsci");
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(GeneraMenuFormTest, EnterInTheHouseholdConfirms)
@@ -655,11 +637,3 @@ TEST_F(GeneraMenuFormTest, ToolTipsAndFrequenciesAreThoseOfTheScreen)
 }
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen"); // no display is needed
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

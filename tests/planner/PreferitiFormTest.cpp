@@ -3,7 +3,7 @@
 #include "planner/PlannerTest.h"
 #include "platform/ui/DataCombo.h"
 #include "platform/ui/DataGrid.h"
-#include "platform/ui/FormRegistry.h"
+#include "support/FormWorld.h"
 
 #include <QAction>
 #include <QApplication>
@@ -16,22 +16,11 @@
 
 namespace {
 
-class PreferitiFormTest : public PlannerTest
+class PreferitiFormTest : public PlannerTest, protected FormHands<Preferiti>
 {
 protected:
-    PreferitiFormTest()
-    {
-        fillCatalogue();
-        host.report = [this](const Failure &failure) { failures.append(failure.words()); };
-        registry.setFactory<Preferiti>([this] { return std::make_unique<Preferiti>(host, registry, world.modulo); });
-    }
+    PreferitiFormTest() : FormHands(world.modulo) { fillCatalogue(); }
 
-    Preferiti &form() { return registry.get<Preferiti>(); }
-    template <class Control>
-    Control &control(const char *name)
-    {
-        return *form().findChild<Control *>(name);
-    }
     DataGrid &grid() { return control<DataGrid>("TDBGrid1"); }
     DataCombo &combo(const char *name) { return control<DataCombo>(name); }
     void pick(const char *name, int item)
@@ -40,8 +29,7 @@ protected:
         emit combo(name).picked();
     }
     void pick(const char *name, const QString &item) { pick(name, combo(name).findText(item)); }
-    void click(const char *name) { control<QPushButton>(name).click(); }
-    void toggle() { control<QAction>("mnupreferiti").trigger(); }
+    void toggle() { menu("mnupreferiti"); }
     QStringList items(const char *name)
     {
         QStringList all;
@@ -67,10 +55,6 @@ protected:
     {
         return rowsOf(dati, "Select Piatto from Sostituisci where Preferito = True order by ID");
     }
-
-    FormHost host;
-    FormRegistry registry;
-    QStringList failures;
 };
 
 const QStringList kAllDishes = {"Caffelatte", "Cuscus",   "Fagiolini", "Grissini", "Manzo",          "Mela",
@@ -217,7 +201,7 @@ TEST_F(PreferitiFormTest, TypeAndCategoryAreEditedFromTheirListsAndTheNameIsNot)
     EXPECT_EQ(texts, QStringList({"Bevanda", "Bistecca Vegetale", "Carne", "Cereali", "Contorno", "Formaggio", "Frutta",
                                   "Panino - Pizza", "Pasta - Minestra", "Pesce", "Piatto unico"}));
     QTest::keyClick(&form(), Qt::Key_Escape); // the edit is given up, not the form
-    EXPECT_TRUE(registry.isLoaded<Preferiti>());
+    EXPECT_TRUE(isLoaded());
     EXPECT_EQ(valueOf(dati, "Select Categoria from Sostituisci where Piatto = 'Cuscus'"), "Piatto unico");
 }
 
@@ -270,10 +254,10 @@ TEST_F(PreferitiFormTest, EscapeAndTheEntryEsciCloseTheForm)
     form().show();
     grid().setFocus();
     QTest::keyClick(&grid(), Qt::Key_Escape);
-    EXPECT_FALSE(registry.isLoaded<Preferiti>());
+    EXPECT_FALSE(isLoaded());
     form().show();
-    control<QAction>("MnuEsci").trigger();
-    EXPECT_FALSE(registry.isLoaded<Preferiti>());
+    menu("MnuEsci");
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(PreferitiFormTest, EnterInAListAsksForTheDishes)

@@ -216,7 +216,7 @@ TEST_F(FrmCibraComandiTest, AnExportThatFailsIsShownAndLogged)
     world.cartella.makeFolder("\\InteroRecordSet.txt");
     show();
     world.dialoghi.answerButton(6);
-    control<QAction>("MnuFileTesto").trigger();
+    menu("MnuFileTesto");
     EXPECT_TRUE(world.dialoghi.boxes().last().startsWith("Msg1 \"Errore Generico\""));
     EXPECT_TRUE(log().contains("FrmCibra * mnuFileTesto_Click "));
 }
@@ -232,14 +232,14 @@ TEST_F(FrmCibraComandiTest, PanelsAnswerAsTheirKeys)
     EXPECT_EQ(world.dialoghi.boxes().size(), 1);
     emit bar().panelClicked(9);
     QApplication::processEvents();
-    EXPECT_FALSE(registry.isLoaded<FrmCibra>());
+    EXPECT_FALSE(isLoaded());
 }
 
 TEST_F(FrmCibraComandiTest, TheOverviewShowsEveryDayNewestTextFirstAndTheSecondTimeTheDayAgain)
 {
     show();
     EXPECT_FALSE(visible("MyGriglia"));
-    control<QAction>("mnuGriglia").trigger();
+    menu("mnuGriglia");
     EXPECT_TRUE(visible("MyGriglia"));
     auto &all = control<DataGrid>("MyGriglia");
     EXPECT_EQ(all.dataSource()->Source(), "SELECT  * FROM SchedaPranzo ORDER BY SchedaPranzo.dataInserimento DESC;");
@@ -268,8 +268,7 @@ TEST_F(FrmCibraComandiTest, TheQuestionMarkSendsEnterToTheControlThatHasTheFocus
     show();
     QApplication::setActiveWindow(&form());
     box(8).setFocus();
-    control<QAction>("MnuHelp").trigger();
-    QApplication::processEvents();
+    menu("MnuHelp");
     EXPECT_FALSE(box(8).hasFocus());
 }
 
@@ -286,7 +285,7 @@ TEST_F(FrmCibraComandiTest, TheOtherListsOpenFromTheMenu)
             if (front)
                 front->close();
         });
-        control<QAction>(entry).trigger();
+        menu(entry);
         EXPECT_EQ(opened, window);
     }
     EXPECT_TRUE(failures.isEmpty());
@@ -319,17 +318,17 @@ TEST_F(SchedaModificabileTest, AFirstPressBeginsTheChangeAndASecondPutsTheFields
 {
     sheetForm.modifica();
     EXPECT_EQ(sheetForm.stato(), "M");
-    EXPECT_TRUE(sheetForm.findChild<QWidget *>("picStatBox")->isHidden());
-    EXPECT_FALSE(sheetForm.findChild<QMenu *>("MnuView")->menuAction()->isVisible());
-    EXPECT_FALSE(sheetForm.findChild<QAction *>("MnuEsci")->isVisible());
-    EXPECT_TRUE(sheetForm.findChild<StatusPanels *>("StatusBar1")->panelWidget(1)->isVisibleTo(&sheetForm));
+    EXPECT_TRUE(controlOf<QWidget>(sheetForm, "picStatBox").isHidden());
+    EXPECT_FALSE(controlOf<QMenu>(sheetForm, "MnuView").menuAction()->isVisible());
+    EXPECT_FALSE(controlOf<QAction>(sheetForm, "MnuEsci").isVisible());
+    EXPECT_TRUE(controlOf<StatusPanels>(sheetForm, "StatusBar1").panelWidget(1)->isVisibleTo(&sheetForm));
     sheetForm.lista().setValue("DataInserimento", QString("01/01/2020"));
     sheetForm.lista().Update();
     sheetForm.modifica();
     EXPECT_EQ(sheetForm.stato(), "V");
     EXPECT_TRUE(sheetForm.lista().value("DataInserimento").isNull());
     EXPECT_EQ(world.dialoghi.boxes(), QStringList("MsgBox 64 \"\" Record ripristinato allo stato originale"));
-    EXPECT_TRUE(sheetForm.findChild<QMenu *>("MnuView")->menuAction()->isVisible());
+    EXPECT_TRUE(controlOf<QMenu>(sheetForm, "MnuView").menuAction()->isVisible());
 }
 
 TEST_F(SchedaModificabileTest, ARecordOfTheProcedureIsNotChanged)

@@ -18,7 +18,7 @@ protected:
     }
     void substitute(const QString &choice)
     {
-        clickLabel("Label6");
+        click("Label6");
         foodsToChoose().setEditText(choice);
         click("Command3");
     }
@@ -26,8 +26,8 @@ protected:
     void replaceDish(MsgAnswer answer)
     {
         world.dialoghi.answer(answer);
-        QTimer::singleShot(0, [this] { registry.get<Sostituti>().findChild<QAbstractButton *>("Command1")->click(); });
-        clickLabel("Label7");
+        QTimer::singleShot(0, [this] { controlOf<QAbstractButton>(registry.get<Sostituti>(), "Command1").click(); });
+        click("Label7");
     }
 };
 
@@ -224,7 +224,7 @@ TEST_F(FrmCibraRigaTest, WhatWasTypedIsStoredBeforeACommandThatLeavesTheFocusInI
     box(8).setFocus();
     box(8).selectAll();
     QTest::keyClicks(&box(8), "120");
-    control<QAction>("mnuGriglia").trigger();
+    menu("mnuGriglia");
     EXPECT_EQ(row(0), "Colazione | Colazione 1 | Latte | 120 | 60 | 300 | 150");
 }
 
@@ -288,7 +288,7 @@ TEST_F(FrmCibraRigaTest, ADoubleClickDeletesTheRowOnShowAndASingleOneNothing)
 {
     show();
     goToRow(1);
-    clickLabel("Label3");
+    click("Label3");
     EXPECT_TRUE(world.dialoghi.boxes().isEmpty());
     world.dialoghi.answer(MsgAnswer::Si);
     doubleClick("Label3");
@@ -309,7 +309,7 @@ TEST_F(FrmCibraRigaTest, AGroupIsDeletedByItsLabelAndByTheMenuAndItsDayStaysInTh
     doubleClick("Label4");
     EXPECT_EQ(foods(), QStringList("Riso"));
     world.dialoghi.answer(MsgAnswer::Si);
-    control<QAction>("MnuDelete").trigger();
+    menu("MnuDelete");
     EXPECT_EQ(foods(), QStringList());
     EXPECT_EQ(totals(), QStringList({"0", "0"}));
     EXPECT_GE(days().findText("11/01/2025"), 0);
@@ -332,16 +332,16 @@ TEST_F(FrmCibraRigaTest, TheFoodsToChooseAreReadAfreshAtEachOpeningAndTheFirstOn
     insertRows(dati, "Categorie", "ID, TIPO, Alimento, Kcal", {"1, 1, 'Zucca', 18", "2, 999, 'Ritirato', 1"});
     show();
     EXPECT_FALSE(visible("Frame2"));
-    clickLabel("Label6");
+    click("Label6");
     EXPECT_TRUE(visible("Frame2"));
     EXPECT_EQ(foodsToChoose().count(), 1);
     EXPECT_EQ(foodsToChoose().currentText(), "Zucca / 18");
     insertRows(dati, "Categorie", "ID, TIPO, Alimento, Kcal", {"3, 1, 'Aglio', 41"});
-    clickLabel("Label6"); // while it is open nothing is read
+    click("Label6"); // while it is open nothing is read
     EXPECT_EQ(foodsToChoose().count(), 1);
     click("Command4");
     EXPECT_FALSE(visible("Frame2"));
-    clickLabel("Label6");
+    click("Label6");
     EXPECT_EQ(foodsToChoose().count(), 2);
     EXPECT_EQ(foodsToChoose().currentText(), "Aglio / 41");
     QTest::mouseDClick(&control<QWidget>("Frame2"), Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
@@ -446,7 +446,7 @@ TEST_F(FrmCibraPiattoTest, AReplacementGivenUpLeavesTheDayAsItWas)
         Sostituti &window = registry.get<Sostituti>();
         QTest::keyClick(window.focusWidget() ? window.focusWidget() : &window, Qt::Key_Escape);
     });
-    clickLabel("Label7");
+    click("Label7");
     EXPECT_EQ(sheet("02/03/2025"), before);
     EXPECT_EQ(world.modulo.PiattoSostituto, "");
 }
@@ -460,10 +460,10 @@ TEST_F(FrmCibraPiattoTest, TheWindowOfAlternativesNamesTheDishAndItsMeal)
     QTimer::singleShot(0, [&] {
         Sostituti &window = registry.get<Sostituti>();
         title = window.windowTitle();
-        label = window.findChild<QLabel *>("Label6")->text();
-        window.findChild<QAbstractButton *>("Command2")->click();
+        label = controlOf<QLabel>(window, "Label6").text();
+        controlOf<QAbstractButton>(window, "Command2").click();
     });
-    clickLabel("Label7");
+    click("Label7");
     EXPECT_EQ(title, "Sostituisci Menu Pasta di cui Pranzo");
     EXPECT_EQ(label, "Sostituisci Menu Pasta di cui ");
 }
@@ -472,7 +472,7 @@ TEST_F(FrmCibraPiattoTest, ADayWithoutRowsHasNoDishToReplace)
 {
     show();
     days().setText("03/03/2025");
-    clickLabel("Label7");
+    click("Label7");
     EXPECT_EQ(failures, QStringList("Non c'è nessun record corrente"));
 }
 

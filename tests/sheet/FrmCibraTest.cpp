@@ -272,7 +272,7 @@ TEST_F(FrmCibraTest, TheNotesOfTheFormOpenByTheirButton)
 TEST_F(FrmCibraTest, TheCalculatorStartsFromTheMenu)
 {
     show();
-    control<QAction>("MnuCalcola").trigger();
+    menu("MnuCalcola");
     EXPECT_EQ(world.programmi.started, QStringList("Calculator calc.exe"));
 }
 
@@ -282,7 +282,7 @@ TEST_F(FrmCibraTest, EscClosesTheFormAndForgetsTheDishToReplace)
     world.modulo.PiattoSostituto = "Pasta";
     QTest::keyClick(days().lineEdit(), Qt::Key_Escape);
     QApplication::processEvents();
-    EXPECT_FALSE(registry.isLoaded<FrmCibra>());
+    EXPECT_FALSE(isLoaded());
     EXPECT_EQ(world.modulo.PiattoSostituto, "");
 }
 
@@ -290,18 +290,9 @@ TEST_F(FrmCibraTest, EsciAndChiudiCloseTheForm)
 {
     for (const char *entry : {"MnuEsci", "MnuClose"}) {
         show();
-        control<QAction>(entry).trigger();
-        QApplication::processEvents();
-        EXPECT_FALSE(registry.isLoaded<FrmCibra>()) << entry;
+        menu(entry);
+        EXPECT_FALSE(isLoaded()) << entry;
     }
 }
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    testing::InitGoogleMock(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

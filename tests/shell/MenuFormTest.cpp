@@ -1,9 +1,8 @@
 // The main window's hidden buttons: the maintenance commands behind them.
 #include "shell/forms/Menu.h"
 
-#include "platform/ui/FormRegistry.h"
 #include "shell/Manutenzione.h"
-#include "support/TestWorld.h"
+#include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -11,22 +10,10 @@
 
 namespace {
 
-class MenuFormTest : public testing::Test
+class MenuFormTest : public testing::Test, protected FormWorld<Menu>
 {
 protected:
-    MenuFormTest()
-    {
-        world.setHousehold();
-        host.report = [this](const Failure &failure) { failures.append(failure.words()); };
-        registry.setFactory<Menu>([this] { return std::make_unique<Menu>(host, registry, world.modulo); });
-    }
-    QPushButton &button(const char *name) { return *registry.get<Menu>().findChild<QPushButton *>(name); }
-
-    TestWorld world;
-    Connection &dati = world.openArchive();
-    FormHost host;
-    FormRegistry registry;
-    QStringList failures;
+    QPushButton &button(const QString &name) { return control<QPushButton>(name); }
 };
 
 TEST_F(MenuFormTest, TheMaintenanceButtonsAreHiddenAndCaptioned)
@@ -52,7 +39,7 @@ TEST_F(MenuFormTest, EachMaintenanceButtonRunsItsCommand)
 
     insertRows(dati, "Nocorrispondenza", "Piatto, sostituisci1100", {"'Uova', '- Uova (60 gr.)'"});
     button("Command10").click();
-    EXPECT_EQ(registry.get<Menu>().windowTitle(), "Uova");
+    EXPECT_EQ(form().windowTitle(), "Uova");
     EXPECT_EQ(world.programmi.started, QStringList("TextViewer " + FileDiScambio(world.modulo)));
     EXPECT_EQ(world.dialoghi.boxes(), QStringList({"MsgBox 0 \"\" Fattto", "MsgBox 0 \"\" fatto"}));
     EXPECT_EQ(failures, QStringList());
