@@ -12,7 +12,7 @@ constexpr int kEscape = 27;
 
 } // namespace
 
-CreaGruppo::CreaGruppo(FormHost &host, FormRegistry &, ModNetServer &modulo)
+CreaGruppo::CreaGruppo(FormHost &host, ModNetServer &modulo)
     : Form("CreaGruppo", host), m_ui(std::make_unique<Ui::CreaGruppo>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class FormRegistry;
 namespace Ui {
 class CreaGruppo;
 }
@@ -16,7 +15,7 @@ class CreaGruppo : public Form
     Q_OBJECT
 
 public:
-    CreaGruppo(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    CreaGruppo(FormHost &host, ModNetServer &modulo);
     ~CreaGruppo() override;
 
 protected:

@@ -9,7 +9,7 @@ constexpr int kEscape = 27;
 
 } // namespace
 
-InserimentoKCal::InserimentoKCal(FormHost &host, FormRegistry &, ModNetServer &modulo)
+InserimentoKCal::InserimentoKCal(FormHost &host, ModNetServer &modulo)
     : Form("InserimentoKCal", host), m_ui(std::make_unique<Ui::InserimentoKCal>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class FormRegistry;
 class QPushButton;
 namespace Ui {
 class InserimentoKCal;
@@ -18,7 +17,7 @@ class InserimentoKCal : public Form
     Q_OBJECT
 
 public:
-    InserimentoKCal(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    InserimentoKCal(FormHost &host, ModNetServer &modulo);
     ~InserimentoKCal() override;
 
     void setDomanda(const QString &domanda); // the caption of its label

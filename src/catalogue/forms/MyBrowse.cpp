@@ -14,7 +14,7 @@ constexpr int kLogo = 32; // pixels
 
 } // namespace
 
-MyBrowse::MyBrowse(FormHost &host, FormRegistry &, ModNetServer &modulo)
+MyBrowse::MyBrowse(FormHost &host, ModNetServer &modulo)
     : Form("MyBrowse", host), m_ui(std::make_unique<Ui::MyBrowse>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

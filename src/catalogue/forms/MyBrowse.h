@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class FormRegistry;
 namespace Ui {
 class MyBrowse;
 }
@@ -16,7 +15,7 @@ class MyBrowse : public Form
     Q_OBJECT
 
 public:
-    MyBrowse(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    MyBrowse(FormHost &host, ModNetServer &modulo);
     ~MyBrowse() override;
 
 protected:

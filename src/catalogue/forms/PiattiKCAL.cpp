@@ -11,7 +11,7 @@ constexpr int kLogo = 32; // pixels
 
 } // namespace
 
-PiattiKCAL::PiattiKCAL(FormHost &host, FormRegistry &, ModNetServer &modulo)
+PiattiKCAL::PiattiKCAL(FormHost &host, ModNetServer &modulo)
     : Form("PiattiKCAL", host), m_ui(std::make_unique<Ui::PiattiKCAL>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class FormRegistry;
 namespace Ui {
 class PiattiKCAL;
 }
@@ -16,7 +15,7 @@ class PiattiKCAL : public Form
     Q_OBJECT
 
 public:
-    PiattiKCAL(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    PiattiKCAL(FormHost &host, ModNetServer &modulo);
     ~PiattiKCAL() override;
 
 protected:

@@ -33,7 +33,7 @@ bool isCharacter(const QKeyEvent &key)
 
 } // namespace
 
-Sostituti::Sostituti(FormHost &host, FormRegistry &, ModNetServer &modulo)
+Sostituti::Sostituti(FormHost &host, ModNetServer &modulo)
     : Form("Sostituti", host), m_ui(std::make_unique<Ui::Sostituti>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

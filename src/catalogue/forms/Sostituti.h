@@ -15,7 +15,6 @@
 #include <memory>
 
 class DataGrid;
-class FormRegistry;
 namespace Ui {
 class Sostituti;
 }
@@ -25,7 +24,7 @@ class Sostituti : public Form
     Q_OBJECT
 
 public:
-    Sostituti(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    Sostituti(FormHost &host, ModNetServer &modulo);
     ~Sostituti() override;
 
     // The alternatives of `piatto`, which stands in a meal of a day: no other dish can be chosen.

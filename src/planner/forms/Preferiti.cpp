@@ -18,7 +18,7 @@ QStringList tipiDellaGriglia()
 
 } // namespace
 
-Preferiti::Preferiti(FormHost &host, FormRegistry & /*registry*/, ModNetServer &modulo)
+Preferiti::Preferiti(FormHost &host, ModNetServer &modulo)
     : Form("Preferiti", host), m_ui(std::make_unique<Ui::Preferiti>()), m_modulo(modulo)
 {
     m_ui->setupUi(this);

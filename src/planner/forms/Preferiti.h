@@ -6,7 +6,6 @@
 
 #include <memory>
 
-class FormRegistry;
 namespace Ui {
 class Preferiti;
 }
@@ -16,7 +15,7 @@ class Preferiti : public Form
     Q_OBJECT
 
 public:
-    Preferiti(FormHost &host, FormRegistry &registry, ModNetServer &modulo);
+    Preferiti(FormHost &host, ModNetServer &modulo);
     ~Preferiti() override;
 
 protected:

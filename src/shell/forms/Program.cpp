@@ -58,14 +58,14 @@ void Program::Private::setFactories()
     registry.setFactory<Sfondo>([this] { return std::make_unique<Sfondo>(host, modulo); });
     registry.setFactory<GestioneRete>([this] { return std::make_unique<GestioneRete>(host, modulo); });
     registry.setFactory<Menu>([this] { return std::make_unique<Menu>(host, registry, modulo); });
-    registry.setFactory<CreaGruppo>([this] { return std::make_unique<CreaGruppo>(host, registry, modulo); });
+    registry.setFactory<CreaGruppo>([this] { return std::make_unique<CreaGruppo>(host, modulo); });
     registry.setFactory<FrmMenu>([this] { return std::make_unique<FrmMenu>(host, registry, modulo); });
-    registry.setFactory<InserimentoKCal>([this] { return std::make_unique<InserimentoKCal>(host, registry, modulo); });
-    registry.setFactory<MyBrowse>([this] { return std::make_unique<MyBrowse>(host, registry, modulo); });
-    registry.setFactory<PiattiKCAL>([this] { return std::make_unique<PiattiKCAL>(host, registry, modulo); });
-    registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, registry, modulo); });
+    registry.setFactory<InserimentoKCal>([this] { return std::make_unique<InserimentoKCal>(host, modulo); });
+    registry.setFactory<MyBrowse>([this] { return std::make_unique<MyBrowse>(host, modulo); });
+    registry.setFactory<PiattiKCAL>([this] { return std::make_unique<PiattiKCAL>(host, modulo); });
+    registry.setFactory<Sostituti>([this] { return std::make_unique<Sostituti>(host, modulo); });
     registry.setFactory<GeneraMenu>([this] { return std::make_unique<GeneraMenu>(host, registry, modulo); });
-    registry.setFactory<Preferiti>([this] { return std::make_unique<Preferiti>(host, registry, modulo); });
+    registry.setFactory<Preferiti>([this] { return std::make_unique<Preferiti>(host, modulo); });
     registry.setFactory<FrmCategorie>([this] { return std::make_unique<FrmCategorie>(host, modulo); });
     registry.setFactory<FrmCibra>([this] { return std::make_unique<FrmCibra>(host, registry, modulo); });
 }
