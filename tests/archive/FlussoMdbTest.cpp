@@ -85,7 +85,7 @@ TEST(FlussoMdbTest, TheDamageThatTheReaderTellsIsThrown)
 TEST(FlussoMdbTest, FewerRowsThanDeclaredAreADamage)
 {
     EXPECT_EQ(refusal(QByteArray(kSmall).replace("TABELLA\tA\t1", "TABELLA\tA\t2")),
-              "nella tabella \"A\" si leggono 1 righe invece di 2");
+              "tabella \"A\": righe lette: 1, dichiarate: 2");
 }
 
 TEST(FlussoMdbTest, AStreamThatBreaksTheRulesIsRefused)

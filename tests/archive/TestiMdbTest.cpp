@@ -58,6 +58,8 @@ TEST(TestoMdbTest, ATextIsTwoBytesACharacterOrPacked)
               "d’orzo");
     EXPECT_EQ(text(QByteArrayView("\x34\xd8\x1e\xdd", 4)), "𝄞");
     EXPECT_EQ(text(QByteArrayView("a\0b", 3)), "(none)");
+    // zeros in place of the letters' rest are no switches to and fro
+    EXPECT_EQ(text(QByteArrayView("\xff\xfePu\0\0\0\0", 8)), "(none)");
     EXPECT_EQ(text(QByteArrayView("\xff\xfe"
                                   "a\0\x19",
                                   5)),

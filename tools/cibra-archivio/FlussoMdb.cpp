@@ -375,7 +375,7 @@ void LettoreFlusso::endOfTable(const QList<QByteArrayView> &fields)
     const qint64 sent = countIn(fields[0]);
     expect(sent == qint64(owner.righe.size()) && !owner.colonne.isEmpty());
     if (sent != owner.righeDichiarate)
-        guasto(QStringLiteral("nella tabella \"%1\" si leggono %2 righe invece di %3")
+        guasto(QStringLiteral("tabella \"%1\": righe lette: %2, dichiarate: %3")
                    .arg(owner.nome)
                    .arg(sent)
                    .arg(owner.righeDichiarate));

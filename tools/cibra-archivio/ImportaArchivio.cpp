@@ -150,6 +150,10 @@ public:
         for (auto odd = m_odd.constBegin(); odd != m_odd.constEnd(); ++odd)
             notes += QStringLiteral("%1.%2: %3")
                          .arg(m_plan.nome, m_plan.colonne[odd.key().first].nome, words(odd.key().second, odd.value()));
+        for (auto zeros = m_zeros.constBegin(); zeros != m_zeros.constEnd(); ++zeros)
+            notes += QStringLiteral("%1.%2: testi con dei caratteri nulli, forse rovinati, lasciati come sono: %3")
+                         .arg(m_plan.nome, m_plan.colonne[zeros.key()].nome)
+                         .arg(zeros.value());
         if (m_newKeys > 0)
             notes += QStringLiteral("%1: righe con una chiave vuota o doppia, che ora ne hanno una nuova: %2")
                          .arg(m_plan.nome)
@@ -183,6 +187,8 @@ private:
             const ValoreImportato value = valoreImportato(row[size_t(column.sorgente)], column.tipo);
             if (value.esito != Esito::Esatto && i != m_plan.chiave)
                 ++m_odd[{i, value.esito}];
+            if (const auto *text = std::get_if<QString>(&value.valore); text && text->contains(QChar::Null))
+                ++m_zeros[i];
             stored.push_back(value.valore);
         }
         if (m_plan.chiave >= 0 && m_keys.assegna(stored[size_t(m_plan.chiave)]))
@@ -195,6 +201,7 @@ private:
     Chiavi m_keys;
     int m_newKeys = 0;
     QMap<std::pair<int, Esito>, int> m_odd;
+    QMap<int, int> m_zeros; // texts that hold a null character, by column: what a damaged disk leaves, or old programs
 };
 
 void scrivi(const QString &path, const QString &password, const ContenutoMdb &content, const PianoImportazione &plan,

@@ -1,10 +1,13 @@
 #include "LeggiMdb.h"
 
 #include "FlussoMdb.h"
+#include "FormaRiga.h"
+#include "platform/text/CodePage.h"
 #include "TestoMdb.h"
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QtEndian>
 
 #include <algorithm>
@@ -23,7 +26,8 @@
 
 namespace {
 
-constexpr int kCatalogPage = 2;     // of the table of all objects
+constexpr int kCatalogPage = 2; // of the table of all objects
+constexpr const char *kCatalogName = "MSysObjects";
 constexpr int kOffsetMask = 0x1fff; // the rest of a row's place are flags
 constexpr unsigned char kDataPage = 1;
 constexpr size_t kLongHead = 12; // what stands in the row of a memo: length and flags, place, 4 bytes more
@@ -32,7 +36,15 @@ constexpr quint32 kOnePiece = 0x40000000;
 constexpr quint32 kLengthMask = 0x3fffffff;
 constexpr int kPrimary = 1; // kind of index
 constexpr int kCodePageUsual = 1252;
+constexpr qsizetype kSector = 512;
 constexpr rlim_t kCpuSeconds = 600; // in case that nobody is left to watch
+constexpr rlim_t kMemory = rlim_t(512) * 1024 * 1024;
+constexpr rlim_t kMemoryPerByte = 16; // of the file: no value is longer than that, and it is copied a few times
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kSanitized = true; // which maps terabytes beforehand
+#else
+constexpr bool kSanitized = false;
+#endif
 
 // A damage of the file, in words that follow "il file è danneggiato: ".
 struct Guasto
@@ -104,6 +116,73 @@ QString guid(const QByteArray &bytes)
         .toUpper();
 }
 
+// How many columns the table has ever had, those that were deleted among them: it stands before the number of those
+// that it has now.
+int colonneDiSempre(MdbHandle *mdb, const MdbCatalogEntry *entry)
+{
+    constexpr int kBeforeJet3 = 21;
+    constexpr int kBeforeJet4 = 41;
+    if (mdb_read_pg(mdb, entry->table_pg) != mdb->fmt->pg_size)
+        return 0;
+    return mdb_get_int16(mdb->pg_buf, IS_JET3(mdb) ? kBeforeJet3 : kBeforeJet4);
+}
+
+// Steps through the rows of a table, and trusts none that the engine cannot have written.
+class Righe
+{
+public:
+    // The table must stay.
+    Righe(MdbHandle *mdb, MdbTableDef *table)
+        : m_mdb(mdb), m_table(table),
+          m_declared(table->num_rows), m_form{IS_JET3(mdb) ? 3 : 4, colonneDiSempre(mdb, table->entry),
+                                              table->num_var_cols > 0}
+    {
+        if (m_form.colonne < int(table->num_cols))
+            throw Guasto{QStringLiteral("le colonne non sono quante ne dichiara")};
+        // The library looks for rows in no table that says it has none.
+        m_table->num_rows = std::max(1U, m_table->num_rows);
+        mdb_rewind_table(m_table);
+    }
+    ~Righe() { m_table->num_rows = m_declared; }
+    Righe(const Righe &) = delete;
+    Righe &operator=(const Righe &) = delete;
+
+    unsigned dichiarate() const { return m_declared; }
+    unsigned lette() const { return m_read; }
+    int inizio() const { return m_start; }
+    size_t lunghezza() const { return m_size; }
+
+    // Stands on the next row, which is in the handle's page then; false behind the last one. Throws Guasto where the
+    // rows are not as many as the table declares.
+    bool prossima()
+    {
+        const bool found = mdb_fetch_row(m_table) != 0;
+        if (found && m_read == m_declared)
+            throw Guasto{QStringLiteral("ci sono più righe di quante ne dichiara (%1)").arg(m_declared)};
+        if (!found && m_read != m_declared)
+            throw Guasto{QStringLiteral("righe lette: %1, dichiarate: %2").arg(m_read).arg(m_declared)};
+        if (!found)
+            return false;
+        // The library has already stepped on.
+        if (m_table->cur_row == 0 || mdb_find_row(m_mdb, int(m_table->cur_row - 1), &m_start, &m_size) != 0)
+            throw Guasto{QStringLiteral("una riga non si trova")};
+        m_start &= kOffsetMask;
+        if (!rigaIntera({m_mdb->pg_buf + m_start, qsizetype(m_size)}, m_form))
+            throw Guasto{QStringLiteral("una riga è azzerata o rovinata")};
+        ++m_read;
+        return true;
+    }
+
+private:
+    MdbHandle *m_mdb;
+    MdbTableDef *m_table;
+    unsigned m_declared;
+    FormaRiga m_form;
+    unsigned m_read = 0;
+    int m_start = 0;
+    size_t m_size = 0;
+};
+
 // Reads one table, row by row.
 class LettoreTabella
 {
@@ -125,10 +204,7 @@ public:
     }
 
 private:
-    [[noreturn]] void fail(const QString &words) const
-    {
-        throw Guasto{QStringLiteral("tabella \"%1\": %2").arg(m_name, words)};
-    }
+    [[noreturn]] static void fail(const QString &words) { throw Guasto{words}; }
     void put(const QByteArray &line) const { std::fwrite(line.constData(), 1, size_t(line.size()), m_out); }
     MdbColumn *column(unsigned index) const
     {
@@ -170,10 +246,14 @@ private:
             const auto *index = static_cast<MdbIndex *>(g_ptr_array_index(m_table->indices, i));
             if (index->first_pg >= m_pages) // the rows are read without it, but the file has lost its end
                 fail(QStringLiteral("un indice è su una pagina che non c'è"));
+            if (index->name[0] == '\0') // the description ends in zeros, and they may have taken the key
+                fail(QStringLiteral("un indice non ha nome"));
             if (index->index_type != kPrimary || !names.isEmpty())
                 continue;
-            for (unsigned k = 0; k < index->num_keys && k < MDB_MAX_IDX_COLS; ++k)
+            for (unsigned k = 0; k < index->num_keys && k < MDB_MAX_IDX_COLS; ++k) {
+                m_key.insert(index->key_col_num[k] - 1);
                 names += columnNumbered(index->key_col_num[k] - 1);
+            }
         }
         if (!names.isEmpty())
             put(rigaChiave(names));
@@ -181,32 +261,26 @@ private:
 
     void rows()
     {
-        mdb_rewind_table(m_table.get());
-        unsigned read = 0;
-        while (read < m_table->num_rows && mdb_fetch_row(m_table.get())) {
-            ++read;
-            put(rigaValori(row()));
-        }
-        if (read != m_table->num_rows)
-            fail(QStringLiteral("si leggono %1 righe invece di %2").arg(read).arg(m_table->num_rows));
-        if (m_table->num_rows > 0 && mdb_fetch_row(m_table.get()))
-            fail(QStringLiteral("ci sono più righe delle %1 che dichiara").arg(m_table->num_rows));
-        put(rigaFineTabella(read));
+        Righe rows(m_mdb, m_table.get());
+        while (rows.prossima())
+            put(rigaValori(row(rows)));
+        put(rigaFineTabella(rows.lette()));
+        if (m_lettersLost)
+            put(rigaNota(
+                QStringLiteral("%1: lettere che la tabella di codici del file non ha, ora \"?\"").arg(m_name)));
     }
 
-    RigaMdb row()
+    RigaMdb row(const Righe &rows)
     {
-        int start = 0;
-        size_t size = 0;
-        // The library has already stepped on.
-        if (m_table->cur_row == 0 || mdb_find_row(m_mdb, int(m_table->cur_row - 1), &start, &size) != 0)
-            fail(QStringLiteral("una riga non si trova"));
         std::array<MdbField, MDB_MAX_COLS> fields{};
-        if (mdb_crack_row(m_table.get(), start & kOffsetMask, size, fields.data()) < 0)
-            fail(QStringLiteral("una riga non si legge"));
+        if (mdb_crack_row(m_table.get(), rows.inizio(), rows.lunghezza(), fields.data()) < 0)
+            throw Guasto{QStringLiteral("una riga non si legge")};
         std::vector<Campo> copied;
-        for (unsigned i = 0; i < m_table->num_cols; ++i)
+        for (unsigned i = 0; i < m_table->num_cols; ++i) {
             copied.push_back(field(fields[i]));
+            if (copied.back().isNull && m_key.contains(column(i)->col_num))
+                throw Guasto{QStringLiteral("una riga non ha la sua chiave")};
+        }
         RigaMdb values;
         for (unsigned i = 0; i < m_table->num_cols; ++i)
             values.push_back(value(i, copied[i]));
@@ -255,7 +329,7 @@ private:
         case TipoMdb::Testo:
             return text(told.bytes);
         case TipoMdb::Memo:
-            return text(longValue(told.bytes));
+            return text(memo(told.bytes));
         case TipoMdb::Ole:
             return longValue(told.bytes);
         default:
@@ -276,18 +350,31 @@ private:
         return result;
     }
 
-    QString text(const QByteArray &bytes) const
+    QString text(const QByteArray &bytes)
     {
         if (!IS_JET3(m_mdb)) {
             const TestoMdb result = testoJet4(bytes);
             if (!result.buono)
-                fail(QStringLiteral("un testo finisce a metà di una lettera"));
+                fail(QStringLiteral("un testo è rovinato"));
             return result.testo;
         }
+        if (m_mdb->f->code_page == 0 || m_mdb->f->code_page == kCodePageUsual)
+            return fromWindows1252(bytes);
         QByteArray wide(bytes.size() * 4 + 8, '\0');
         const int length =
             mdb_unicode2ascii(m_mdb, bytes.constData(), size_t(bytes.size()), wide.data(), size_t(wide.size() - 1));
-        return QString::fromUtf8(wide.constData(), length);
+        const QString result = QString::fromUtf8(wide.constData(), length);
+        m_lettersLost = m_lettersLost || result.count(u'?') > bytes.count('?');
+        return result;
+    }
+
+    // Letters in which a whole sector is zero were overwritten.
+    QByteArray memo(const QByteArray &told)
+    {
+        QByteArray whole = longValue(told);
+        if (whole.contains(QByteArray(kSector, '\0')))
+            fail(QStringLiteral("un memo è in parte azzerato"));
+        return whole;
     }
 
     QByteArray longValue(const QByteArray &told)
@@ -296,6 +383,8 @@ private:
             fail(QStringLiteral("un memo non ha la sua testata"));
         const auto head = numberAt<quint32>(told);
         const qsizetype length = head & kLengthMask;
+        if (length > m_pages * m_mdb->fmt->pg_size)
+            fail(QStringLiteral("un memo di %1 byte non sta nel file").arg(length));
         QByteArray whole;
         if (head & kInline) {
             whole = told.sliced(qsizetype(kLongHead));
@@ -343,6 +432,8 @@ private:
     Table m_table;
     std::FILE *m_out;
     std::vector<TipoMdb> m_types;
+    QSet<int> m_key; // numbers of the columns that no row may leave empty
+    bool m_lettersLost = false;
 };
 
 class LettoreArchivio
@@ -371,29 +462,46 @@ public:
 private:
     void put(const QByteArray &line) const { std::fwrite(line.constData(), 1, size_t(line.size()), m_out); }
 
-    // How many objects the table of all objects says it holds.
-    unsigned declaredObjects() const
+    // How many rows the table of all objects has, each of them looked at.
+    unsigned objects() const
     {
         MdbCatalogEntry entry{};
         entry.mdb = m_mdb.get();
         entry.object_type = MDB_TABLE;
         entry.table_pg = kCatalogPage;
-        qstrcpy(entry.object_name, "MSysObjects");
+        qstrcpy(entry.object_name, kCatalogName);
         const Table table(mdb_read_table(&entry));
-        if (!table)
+        if (!table || !mdb_read_columns(table.get()))
             throw Guasto{QStringLiteral("l'elenco delle tabelle non si legge")};
-        return table->num_rows;
+        try {
+            Righe rows(m_mdb.get(), table.get());
+            while (rows.prossima())
+                ;
+            return rows.lette();
+        } catch (const Guasto &damage) {
+            throw Guasto{QStringLiteral("elenco delle tabelle: %1").arg(damage.words)};
+        }
     }
 
     void readCatalog() const
     {
-        const unsigned declared = declaredObjects();
+        const unsigned there = objects();
         if (!mdb_read_catalog(m_mdb.get(), MDB_ANY) || !m_mdb->catalog)
             throw Guasto{QStringLiteral("l'elenco delle tabelle non si legge")};
-        if (m_mdb->catalog->len != declared)
+        if (m_mdb->catalog->len != there)
             throw Guasto{QStringLiteral("nell'elenco delle tabelle si leggono %1 oggetti invece di %2")
                              .arg(m_mdb->catalog->len)
-                             .arg(declared)};
+                             .arg(there)};
+        bool listsItself = false;
+        for (unsigned i = 0; i < there; ++i) {
+            const auto *entry = static_cast<MdbCatalogEntry *>(g_ptr_array_index(m_mdb->catalog, i));
+            if (entry->object_name[0] == '\0')
+                throw Guasto{QStringLiteral("nell'elenco delle tabelle un oggetto non ha nome")};
+            listsItself =
+                listsItself || (entry->table_pg == kCatalogPage && qstricmp(entry->object_name, kCatalogName) == 0);
+        }
+        if (!listsItself)
+            throw Guasto{QStringLiteral("nell'elenco delle tabelle manca l'elenco stesso")};
     }
 
     // The number of tables that came of it.
@@ -408,7 +516,11 @@ private:
             put(rigaNota(QStringLiteral("la query \"%1\" non è portata").arg(name)));
         if (!mdb_is_user_table(entry))
             return 0;
-        LettoreTabella(m_mdb.get(), m_pages, entry, m_out).run();
+        try {
+            LettoreTabella(m_mdb.get(), m_pages, entry, m_out).run();
+        } catch (const Guasto &damage) {
+            throw Guasto{QStringLiteral("tabella \"%1\": %2").arg(name, damage.words)};
+        }
         return 1;
     }
 
@@ -439,6 +551,11 @@ void processoLettore(const QString &path)
     setrlimit(RLIMIT_CORE, &noCore);
     const rlimit cpu{kCpuSeconds, kCpuSeconds};
     setrlimit(RLIMIT_CPU, &cpu);
+
+    const rlim_t most = kMemory + kMemoryPerByte * rlim_t(QFileInfo(path).size());
+    const rlimit memory{most, most};
+    if (!kSanitized)
+        setrlimit(RLIMIT_AS, &memory);
 
     std::FILE *out = fdopen(dup(STDOUT_FILENO), "wb");
     if (!out || !std::freopen("/dev/null", "w", stdout) || !std::freopen("/dev/null", "w", stderr))

@@ -11,13 +11,16 @@ TestoMdb unpacked(QByteArrayView bytes)
 {
     TestoMdb result{true, {}};
     bool packed = true;
+    qsizetype wideFrom = 0;
     for (qsizetype i = 0; i < bytes.size();) {
         if (bytes[i] == 0 && packed) {
             packed = false;
-            ++i;
+            wideFrom = ++i;
         } else if (packed) {
             result.testo += QChar(static_cast<unsigned char>(bytes[i++]), 0);
         } else if (bytes[i] == 0) {
+            if (i == wideFrom)
+                return {}; // no writer switches for nothing: these are zeros that stand where letters stood
             packed = true;
             ++i;
         } else if (i + 1 < bytes.size()) {
