@@ -54,7 +54,8 @@ public:
         auto *tabs = add<QTabWidget>("SSTab1");
         tabs->addTab(new QWidget, "Dati");
         tabs->addTab(new QWidget, "Sistema");
-        fillGrid();
+        fillGrid("TDBGrid1", 0);
+        fillGrid("Preferiti", 1);
         fillBar();
         fillMenu();
 
@@ -100,18 +101,20 @@ private:
     }
     void note(const QString &what) { traccia->setText(traccia->text() + what + ';'); }
 
-    void fillGrid()
+    void fillGrid(const char *name, int nameColumn)
     {
-        auto *grid = add<QTableWidget>("TDBGrid1");
+        const int tickColumn = 1 - nameColumn;
+        auto *grid = add<QTableWidget>(name);
         grid->setColumnCount(2);
         grid->setRowCount(2);
-        grid->setHorizontalHeaderLabels({"Piatto", "Preferito"});
+        grid->setHorizontalHeaderItem(nameColumn, new QTableWidgetItem("Piatto"));
+        grid->setHorizontalHeaderItem(tickColumn, new QTableWidgetItem("Preferito"));
         for (int row = 0; row < 2; ++row) {
-            grid->setItem(row, 0, new QTableWidgetItem(row == 0 ? "Pasta" : "Pane"));
+            grid->setItem(row, nameColumn, new QTableWidgetItem(row == 0 ? "Pasta" : "Pane"));
             auto *tick = new QTableWidgetItem;
             tick->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable);
             tick->setCheckState(Qt::Unchecked);
-            grid->setItem(row, 1, tick);
+            grid->setItem(row, tickColumn, tick);
         }
     }
     void fillBar()
@@ -311,6 +314,8 @@ TEST_F(PlayerTest, RowsAndCellsOfAGridAreReached)
     EXPECT_EQ(play("start\ncell Prova.TDBGrid1 2 \"piatto\" \"Riso\"\ncell Prova.TDBGrid1 1 \"Preferito\" \"on\"\n"
                    "get Prova.TDBGrid1"),
               "[[\"Pasta\",\"on\"],[\"Riso\",\"off\"]]\n");
+    EXPECT_EQ(play("start\nrow Prova.Preferiti 2\nget Prova.Preferiti row\nget Prova.Preferiti"),
+              "2\n[[\"off\",\"Pasta\"],[\"off\",\"Pane\"]]\n"); // the click takes a cell without a tick
     EXPECT_EQ(play("start\nrow Prova.TDBGrid1 3"), "prova.copione:2: Prova.TDBGrid1 has no row 3, but 2 rows\n= 1");
 }
 
@@ -375,6 +380,12 @@ TEST_F(PlayerTest, ProgramsAndBeepsAreRecordedAndForgottenWhenAsked)
 TEST_F(PlayerTest, AKeyComesLaterWhileAHandlerIsAtWork)
 {
     EXPECT_EQ(traceOf("later 1000 Prova \"Esc\"\nclick Prova.Command4"), "\"resize 600;fermato;\"");
+}
+
+TEST_F(PlayerTest, ALaterKeyDoesNotReachThroughAModalWindow)
+{
+    EXPECT_EQ(play("start\nlater 50 Prova \"Esc\"\nclick Prova.Command2\nmsg"),
+              "prova.copione:2: Prova is behind the modal window Interna\n= 1");
 }
 
 TEST_F(PlayerTest, TheEndOfTheProgramIsSeen)

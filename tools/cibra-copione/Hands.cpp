@@ -121,6 +121,11 @@ QModelIndex gridCell(QTableView *grid, const QString &name, int row, int column)
     return grid->model()->index(row - 1, column);
 }
 
+bool isTick(const QModelIndex &cell)
+{
+    return (cell.flags() & Qt::ItemIsUserCheckable) && cell.data(Qt::CheckStateRole).isValid();
+}
+
 void tick(QTableView *grid, const QModelIndex &cell, const QString &text)
 {
     if (text != QStringLiteral("on") && text != QStringLiteral("off"))
@@ -317,7 +322,10 @@ void goToRow(const QString &name, int row)
     const std::vector<int> columns = shownColumns(*grid);
     if (columns.empty())
         throw Wrong{name + QStringLiteral(" has no columns")};
-    clickItem(grid, gridCell(grid, name, row, columns.front()));
+    QModelIndex cell = gridCell(grid, name, row, columns.front());
+    for (std::size_t i = 1; isTick(cell) && i < columns.size(); ++i) // a click on a tick would tick
+        cell = gridCell(grid, name, row, columns[i]);
+    clickItem(grid, cell);
 }
 
 void editCell(const QString &name, int row, const QString &column, const QString &text)
@@ -327,7 +335,7 @@ void editCell(const QString &name, int row, const QString &column, const QString
     if (number < 0)
         throw Wrong{QStringLiteral("%1 has no column \"%2\"").arg(name, column)};
     const QModelIndex cell = gridCell(grid, name, row, number);
-    if ((cell.flags() & Qt::ItemIsUserCheckable) && cell.data(Qt::CheckStateRole).isValid()) {
+    if (isTick(cell)) {
         tick(grid, cell, text);
         return;
     }

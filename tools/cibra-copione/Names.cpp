@@ -44,6 +44,11 @@ WindowKind kindOf(const QWidget *widget)
     return qobject_cast<const QInputDialog *>(widget) ? WindowKind::InputBox : WindowKind::Form;
 }
 
+bool isPinnedToTheBottom(const ShownWindow &window)
+{
+    return window.widget->windowFlags().testFlag(Qt::WindowStaysOnBottomHint);
+}
+
 Target targetOf(QWidget *form, QObject *object)
 {
     Target target;
@@ -82,6 +87,8 @@ std::vector<ShownWindow> WindowOrder::shown() const
     std::sort(windows.begin(), windows.end(), [](const ShownWindow &one, const ShownWindow &other) {
         if (one.widget->isModal() != other.widget->isModal())
             return one.widget->isModal();
+        if (isPinnedToTheBottom(one) != isPinnedToTheBottom(other))
+            return isPinnedToTheBottom(other);
         return one.widget->property(kOrder).toULongLong() > other.widget->property(kOrder).toULongLong();
     });
     return windows;

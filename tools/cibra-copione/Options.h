@@ -12,6 +12,8 @@ struct Options
     QDate today;       // invalid where the real one counts
     int timeout = 120; // seconds for a handler at work
     QString script;    // empty for standard input
+
+    QString scriptName() const { return script.isEmpty() ? QStringLiteral("stdin") : script; }
 };
 
 struct UsageError

@@ -250,9 +250,12 @@ void Player::keyLater(const Command &command, int milliseconds, const QString &f
             QWidget *const window = findForm(form);
             if (!window->isVisible())
                 throw NotThere{form + QStringLiteral(" is not shown")};
+            requireUnblocked(window);
             sendKey(window, code);
         } catch (const NotThere &missing) {
             failWithScreen(command, missing.words);
+        } catch (const Wrong &wrong) {
+            fail(command, wrong.words);
         }
     });
 }

@@ -216,7 +216,8 @@ QString usualProperty(const Target &target)
         return QStringLiteral("rows");
     if (qobject_cast<QProgressBar *>(target.widget) || qobject_cast<QAbstractSlider *>(target.widget))
         return QStringLiteral("value");
-    if (qobject_cast<QAbstractItemView *>(target.widget) || qobject_cast<StatusPanels *>(target.widget))
+    if (qobject_cast<QAbstractItemView *>(target.widget) || qobject_cast<StatusPanels *>(target.widget) ||
+        qobject_cast<QTabWidget *>(target.widget))
         return QStringLiteral("items");
     return QStringLiteral("text");
 }

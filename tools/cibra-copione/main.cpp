@@ -57,7 +57,7 @@ int play(const Options &options, std::vector<Command> commands)
     stage.programs = &programs;
     stage.screen = &screen;
     PlayerSettings settings;
-    settings.scriptName = options.script.isEmpty() ? QStringLiteral("stdin") : options.script;
+    settings.scriptName = options.scriptName();
     settings.pictureFolder = QDir::currentPath(); // the program goes to its own folder
     settings.waitForHandler = options.timeout * 1000;
     QTextStream out(stdout);
@@ -72,9 +72,11 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
+    QString script;
     try {
         const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
         const Options options = readOptions(arguments, hasDisplay);
+        script = options.scriptName();
         std::vector<Command> commands = parseScript(readScript(options.script));
         if (options.offscreen)
             qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -85,7 +87,7 @@ int main(int argc, char **argv)
     } catch (const UsageError &error) {
         std::fprintf(stderr, "%s\n%s\n", qPrintable(error.words), qPrintable(usage()));
     } catch (const ScriptError &error) {
-        std::fprintf(stderr, "line %d: %s\n", error.line, qPrintable(error.words));
+        std::fprintf(stderr, "%s:%d: %s\n", qPrintable(script), error.line, qPrintable(error.words));
     }
     return kBadCall;
 }
