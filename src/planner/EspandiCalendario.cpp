@@ -217,8 +217,10 @@ void mnuGenera(ModNetServer &modulo, const SceltaEspansione &scelta, FormPianifi
         return;
     }
     CopiaDiSicurezza(modulo); // hand-made changes of the range are about to go
-    espansione.run();
-    modulo.mondo.schermo.setMousePointer(MousePointer::Default);
+    {
+        const PuntatoreLibero pointer(modulo.mondo.schermo); // that the balancing leaves busy
+        espansione.run();
+    }
     form.setBarraVisibile(false);
     modulo.mondo.dialoghi.MsgBox("Elaborazione effettuata con successo !!", MsgFlags::Information, "OK");
     form.setCaption("Generazione nuovi menu");

@@ -32,7 +32,7 @@ QString usualWords(FailureNumber number)
     case FailureNumber::Cancelled:
         return QStringLiteral("L'operazione è stata annullata");
     case FailureNumber::RowChanged:
-        return QStringLiteral("Il record è stato modificato o cancellato da un altro programma: "
+        return QStringLiteral("Il record è stato modificato o cancellato nel frattempo: "
                               "la modifica non è stata salvata");
     case FailureNumber::LoginRefused:
         return QStringLiteral("Password non valida");

@@ -168,7 +168,8 @@ void repeatPasses(std::vector<Row> &rows, const Walk &walk, const QString &targe
             return;
         if (walk.endBand && reaches(sum, target + *walk.endBand, walk))
             return;
-        // Raising that leaves the sum where it was would go on for ever: no later pass could move it either.
+        // Raising that leaves the sum where it was counts as a pass without a change: with sound totals it would go on
+        // for ever.
         if (walk.step > 0 && sum == sumBefore)
             return;
     }

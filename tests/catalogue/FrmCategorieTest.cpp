@@ -593,6 +593,30 @@ TEST_F(FrmCategorieTest, DuplicateStoresACopyAtOnceAndStaysInTheViewState)
     EXPECT_EQ(box(0).text(), "8");
 }
 
+TEST_F(FrmCategorieTest, DuplicateStoresFirstWhatIsStillInTheBoxSoThatTheCopyHasIt)
+{
+    insertFoods();
+    show(3);
+    type(4, "30");
+    menu("mnuDuplica");
+    EXPECT_EQ(stored("Kcal", 1), "30");
+    EXPECT_EQ(stored("Kcal", 8), "30");
+    type(4, "molte");
+    menu("mnuDuplica");
+    EXPECT_EQ(boxes().size(), 1);
+    EXPECT_EQ(stored("Kcal", 9), "gone");
+}
+
+TEST_F(FrmCategorieTest, ARecordThatGetsNoKeyIsNotAdded)
+{
+    show(3); // in an empty table there is no last key to count on from
+    key(Qt::Key_F5);
+    EXPECT_EQ(boxes().size(), 1);
+    menu("MnuRefresh");
+    EXPECT_EQ(countOf(dati, "Categorie"), 0);
+    EXPECT_EQ(line(), kSavedEmpty);
+}
+
 // Repair of a failed save
 
 TEST_F(FrmCategorieTest, ASaveThatFailsIsToldThenTheKeyColumnStopsTheRepair)
@@ -650,6 +674,65 @@ TEST_F(FrmCategorieTest, ATextInANumberBoxIsToldWhenTheBoxIsLeftAndKeepsTheKeybo
     EXPECT_EQ(boxes(), QStringList());
 }
 
+TEST_F(FrmCategorieTest, AClickOnTheBarTellsABadNumberOnce)
+{
+    insertFoods();
+    show();
+    type(4, "molte");
+    QTest::mouseClick(&control<QWidget>("cmdNext"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(boxes().size(), 1);
+    EXPECT_EQ(line(), "Record: 1\\4");
+}
+
+TEST_F(FrmCategorieTest, ABadNumberKeepsTheGridShut)
+{
+    insertFoods();
+    show();
+    type(4, "molte");
+    menu("mnuGriglia");
+    EXPECT_EQ(boxes().size(), 1);
+    EXPECT_FALSE(visible("MyGriglia"));
+    type(4, "30");
+    menu("mnuGriglia");
+    EXPECT_TRUE(visible("MyGriglia"));
+}
+
+TEST_F(FrmCategorieTest, TheBoxesUnderTheGridAreOutOfTheKeyboardsReach)
+{
+    insertFoods();
+    show();
+    menu("mnuGriglia");
+    for (int i = 0; i < 12; ++i)
+        key(Qt::Key_Tab);
+    EXPECT_FALSE(control<QWidget>("Corpo").isAncestorOf(form().focusWidget()));
+    menu("mnuGriglia");
+    EXPECT_TRUE(box(2).isEnabled());
+}
+
+TEST_F(FrmCategorieTest, ADoubleClickHidesAnEmptyGridToo)
+{
+    show();
+    menu("mnuGriglia");
+    QTest::mouseDClick(control<DataGrid>("MyGriglia").viewport(), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_FALSE(visible("MyGriglia"));
+}
+
+TEST_F(FrmCategorieTest, ASearchThatABadNumberStoppedGoesOnOnceItIsMended)
+{
+    insertFoods();
+    show();
+    type(4, "molte");
+    world.dialoghi.answerText("ris");
+    key(Qt::Key_F4);
+    type(4, "30");
+    boxes();
+    key(Qt::Key_F7);
+    EXPECT_EQ(boxes(), QStringList(kReminder));
+    EXPECT_EQ(food(), "Riso");
+}
+
 TEST_F(FrmCategorieTest, AnEmptiedNumberIsNullAndApostrophesAreNoTrouble)
 {
     insertFoods();
@@ -668,10 +751,9 @@ TEST_F(FrmCategorieTest, ARecordChangedByAnotherProgramKeepsTheOthersChangeAndSh
     dati.Execute("UPDATE Categorie SET Kcal = 77 WHERE ID = 1");
     type(4, "30");
     click("cmdNext");
-    EXPECT_EQ(
-        boxes(),
-        QStringList("Msg1 \"Errore Generico\" Il record è stato modificato o cancellato da un altro programma: la "
-                    "modifica non è stata salvata [#@!? ... Errore!] 0 0 picture 3"));
+    EXPECT_EQ(boxes(),
+              QStringList("Msg1 \"Errore Generico\" Il record è stato modificato o cancellato nel frattempo: la "
+                          "modifica non è stata salvata [#@!? ... Errore!] 0 0 picture 3"));
     EXPECT_EQ(stored("Kcal", 1), "77");
     EXPECT_EQ(box(4).text(), "77");
     EXPECT_EQ(line(), kSaved + "1\\4");
@@ -839,7 +921,7 @@ TEST_F(FrmCategorieTest, TheGridComesAndGoesAndMovesTheSheet)
     menu("mnuGriglia");
     EXPECT_FALSE(visible("MyGriglia"));
     menu("mnuGriglia");
-    emit grid.doubleClicked(grid.model()->index(0, 0));
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(0, 0)).center());
     EXPECT_FALSE(visible("MyGriglia"));
 }
 
@@ -916,8 +998,8 @@ TEST_F(FrmCategorieTest, ACharacterCheckThatFailsIsToldInItsOwnWords)
     show();
     dati.Execute("DELETE FROM Categorie WHERE ID = 1");
     menu("MnuContrChar");
-    EXPECT_EQ(boxes(), QStringList("Msg1 \"Errore generico\" Il record è stato modificato o cancellato da un altro "
-                                   "programma: la modifica non è stata salvata #  [#@!?   OK!] 0 0 picture 19"));
+    EXPECT_EQ(boxes(), QStringList("Msg1 \"Errore generico\" Il record è stato modificato o cancellato nel "
+                                   "frattempo: la modifica non è stata salvata #  [#@!?   OK!] 0 0 picture 19"));
     EXPECT_TRUE(log().contains("FrmCategorie * MnuContrChar_Click "));
 }
 

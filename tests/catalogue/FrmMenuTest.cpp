@@ -355,7 +355,54 @@ TEST_F(FrmMenuTest, AQuantityThatSomebodyElseChangedMeanwhileIsToldAndTheirsIsKe
     click("cmdNext");
     EXPECT_EQ(failures.size(), 1);
     EXPECT_EQ(foodsOf("Pasta").last(), "Olio | 900 | 99 | 15 | 90 | 135");
-    EXPECT_EQ(field(8), "20"); // what was typed is not lost
+    EXPECT_EQ(field(8), "99");
+    click("cmdNext");
+    EXPECT_EQ(failures.size(), 1) << "told once";
+}
+
+TEST_F(FrmMenuTest, AnotherRowOfTheGridStoresThePendingFoodAndNothingWaitsAnyMore)
+{
+    show();
+    dishes().setText("Pasta");
+    startFood("Lattuga /Kcal 20", "30", "40");
+    control<QTableView>("TDBGrid1").setCurrentIndex(control<QTableView>("TDBGrid1").model()->index(0, 0));
+    EXPECT_EQ(foodsOf("Pasta").last(), "Lattuga  | 20 | 30 | 40 | - | -");
+    EXPECT_EQ(text("Label1"), kIdle);
+    EXPECT_FALSE(visible("Combo2"));
+}
+
+TEST_F(FrmMenuTest, ALineShowsForAsLongAsAQuantityIsNotStored)
+{
+    show();
+    dishes().setText("Pasta");
+    EXPECT_FALSE(visible("LineaModifica"));
+    typeField(8, "20");
+    EXPECT_TRUE(visible("LineaModifica"));
+    click("cmdNext");
+    EXPECT_FALSE(visible("LineaModifica"));
+}
+
+TEST_F(FrmMenuTest, DeletingADishDeletesTheOneOnShowWhateverIsTypedOverItsName)
+{
+    show();
+    dishes().setText("Pasta");
+    typeField(2, "Riso");
+    world.dialoghi.answer(MsgAnswer::Si);
+    click("Label7");
+    EXPECT_EQ(world.dialoghi.boxes(),
+              QStringList("MsgBox 324 \"Cancellazione Record\" Vuoi cancellare l'intero piatto 'Pasta' ??"));
+    EXPECT_EQ(foodsOf("Pasta"), QStringList());
+    EXPECT_EQ(foodsOf("Riso").size(), 1);
+    EXPECT_EQ(countOf(dati, "Sostituisci"), 2);
+}
+
+TEST_F(FrmMenuTest, AnotherDishShowsItsOwnPosition)
+{
+    show();
+    dishes().setText("Pasta");
+    EXPECT_EQ(text("lblStatus"), "1\\2");
+    dishes().setText("Ignoto");
+    EXPECT_EQ(text("lblStatus"), "RecordSet Vuoto!!");
 }
 
 TEST_F(FrmMenuTest, ADishDeletedUnderTheOpenFormIsToldAndTheFormGoesOn)

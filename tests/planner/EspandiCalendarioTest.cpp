@@ -370,6 +370,7 @@ TEST_F(EspansioneTest, AFailingBalanceLeavesTheDayWritten)
     insertRows(dati, "Piatti", "Piatto, Alimento, quantita, quantita2", {"'Caffelatte', 'Senza calorie', 100, 100"});
     EXPECT_NE(wordsOf([&] { expand("02/03/2025", "03/03/2025", true); }), "");
     EXPECT_EQ(countOf(dati, "SchedaPranzo"), 11);
+    EXPECT_EQ(world.schermo.pointers.back(), MousePointer::Default);
 }
 
 } // namespace

@@ -51,6 +51,7 @@ protected:
         const QModelIndex cell = grid().model()->index(row, number);
         QTest::mouseClick(grid().viewport(), Qt::LeftButton, {}, grid().visualRect(cell).center());
     }
+    QString currentDish() { return grid().currentIndex().siblingAtColumn(1).data().toString(); }
     QStringList favourites()
     {
         return rowsOf(dati, "Select Piatto from Sostituisci where Preferito = True order by ID");
@@ -175,6 +176,21 @@ TEST_F(PreferitiFormTest, ATickReachesTheTableAtOnceAndTheButtonCountsIt)
     EXPECT_EQ(world.dialoghi.boxes(), QStringList("MsgBox 64 \"OK\" Preferiti = 3"));
     clickCell(0, 0);
     EXPECT_EQ(favourites(), QStringList({"Mela", "Manzo"}));
+}
+
+TEST_F(PreferitiFormTest, ADishThatSomebodyElseTickedIsToldOnceAndShownWithItsTick)
+{
+    form().show();
+    ASSERT_EQ(column(1).at(2), "Fagiolini");
+    dati.Execute("UPDATE Sostituisci SET Preferito = True WHERE Piatto = 'Fagiolini'");
+    clickCell(2, 0);
+    QApplication::processEvents();
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_EQ(currentDish(), "Fagiolini");
+    clickCell(2, 0); // now off again
+    QApplication::processEvents();
+    EXPECT_EQ(failures.size(), 1);
+    EXPECT_FALSE(favourites().contains("Fagiolini"));
 }
 
 TEST_F(PreferitiFormTest, TypeAndCategoryAreEditedFromTheirListsAndTheNameIsNot)

@@ -266,7 +266,7 @@ TEST_F(CampoLegatoTest, AChangeBySomebodyElseIsKeptAndToldInPlainWords)
 {
     connection.Execute("UPDATE Categorie SET Kcal = 99 WHERE ID = 1");
     type(kcalBox, "60");
-    EXPECT_EQ(wordsOf([&] { rows->MoveNext(); }), "Il record è stato modificato o cancellato da un altro programma: "
+    EXPECT_EQ(wordsOf([&] { rows->MoveNext(); }), "Il record è stato modificato o cancellato nel frattempo: "
                                                   "la modifica non è stata salvata");
     EXPECT_EQ(stored("Kcal", 1), "99");
     EXPECT_EQ(rows->AbsolutePosition(), 1);
@@ -279,7 +279,7 @@ TEST_F(CampoLegatoTest, ARowDeletedUnderTheOpenFormIsToldInPlainWords)
 {
     connection.Execute("DELETE FROM Categorie WHERE ID = 1");
     type(kcalBox, "60");
-    EXPECT_EQ(wordsOf([&] { rows->Update(); }), "Il record è stato modificato o cancellato da un altro programma: "
+    EXPECT_EQ(wordsOf([&] { rows->Update(); }), "Il record è stato modificato o cancellato nel frattempo: "
                                                 "la modifica non è stata salvata");
     rows->Requery();
     EXPECT_EQ(shown(), "Zucca|26|109|");

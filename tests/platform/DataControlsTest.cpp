@@ -117,6 +117,41 @@ TEST_F(DataGridTest, AMoveThatFailsIsToldAndTheGridStaysWhereTheRecordSetIs)
     clickRow(grid, 2);
     EXPECT_EQ(told.size(), 1);
     EXPECT_EQ(grid.currentIndex().row() + 1, rows->AbsolutePosition());
+    QApplication::processEvents();
+    EXPECT_EQ(grid.selectionModel()->selectedRows(), QModelIndexList({grid.currentIndex()}));
+    EXPECT_EQ(grid.currentIndex().row() + 1, rows->AbsolutePosition());
+}
+
+TEST_F(DataGridTest, ARowThatSomebodyElseChangedIsReadAgain)
+{
+    QStringList told;
+    host.report = [&](const Failure &failure) { told << failure.words(); };
+    rows->setValue("Alimento", QStringLiteral("Pepe"));
+    const QString changed = rows->value("Piatto").text();
+    connection.Execute("Update Piatti set Alimento = 'Timo' where Piatto = '" + changed + "'");
+    clickRow(grid, 2);
+    QApplication::processEvents();
+    EXPECT_EQ(told.size(), 1);
+    EXPECT_EQ(rows->value("Alimento").text(), "Timo");
+    EXPECT_EQ(rows->AbsolutePosition(), 1);
+    clickRow(grid, 2);
+    EXPECT_EQ(rows->AbsolutePosition(), 3);
+    EXPECT_EQ(told.size(), 1);
+}
+
+TEST_F(DataGridTest, AClickAndADoubleClickBelowTheRowsAreToldToo)
+{
+    int clicks = 0;
+    int doubleClicks = 0;
+    QObject::connect(&grid, &DataGrid::Click, [&] { ++clicks; });
+    QObject::connect(&grid, &DataGrid::DblClick, [&] { ++doubleClicks; });
+    const QPoint below(20, grid.viewport()->height() - 5);
+    ASSERT_FALSE(grid.indexAt(below).isValid());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, below);
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, below);
+    clickRow(grid, 1);
+    EXPECT_EQ(doubleClicks, 1);
+    EXPECT_GE(clicks, 2);
 }
 
 TEST_F(DataGridTest, FollowsNewChangedAndDeletedRows)
@@ -250,6 +285,21 @@ TEST_F(DataComboTest, ATextSetByCodeIsToldOnlyWhereItDiffersAndPicksNothing)
     EXPECT_EQ(combo.text(), "pane");
     EXPECT_EQ(combo.currentIndex(), -1);
     EXPECT_EQ(picked.count(), 0);
+}
+
+TEST_F(DataComboTest, TheKeysGoOnFromTheItemThatTheTextNames)
+{
+    combo.setRowSource(*open("Select Alimento from Piatti order by ID"), "Alimento"); // Sale, Olio, Farina
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_PageDown}) {
+        combo.setText("Olio");
+        QTest::keyClick(&combo, key);
+        EXPECT_EQ(combo.text(), "Farina");
+    }
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_PageUp}) {
+        combo.setText("Farina");
+        QTest::keyClick(&combo, key);
+        EXPECT_EQ(combo.text(), "Olio");
+    }
 }
 
 TEST_F(DataComboTest, TheListOpensAtTheItemThatTheTextNames)

@@ -307,6 +307,30 @@ TEST_F(RecordsetConflictTest, AChangeMadeMeanwhileByAnotherProgramIsKeptAndOursW
     EXPECT_EQ(current(), u"theirs"_s);
 }
 
+TEST_F(RecordsetConflictTest, ResyncGivesUpWhatWaitsAndStandsOnTheSameRowAgain)
+{
+    m_rows.MoveNext();
+    m_other.Execute(u"UPDATE T SET Nome = 'theirs' WHERE ID = 2"_s);
+    m_other.Execute(u"DELETE FROM T WHERE ID = 1"_s);
+    set(u"Nome"_s, u"ours"_s);
+    m_rows.Resync();
+    EXPECT_FALSE(m_rows.isPending());
+    EXPECT_EQ(current(), u"theirs"_s);
+    EXPECT_EQ(m_rows.AbsolutePosition(), 1);
+    EXPECT_EQ(m_rows.RecordCount(), 2);
+}
+
+TEST_F(RecordsetConflictTest, ResyncStandsOnTheRowInThePlaceOfOneThatIsGone)
+{
+    m_rows.MoveLast();
+    m_other.Execute(u"DELETE FROM T WHERE ID = 3"_s);
+    m_rows.Resync();
+    EXPECT_EQ(current(), u"b"_s);
+    m_other.Execute(u"DELETE FROM T"_s);
+    m_rows.Resync();
+    EXPECT_EQ(m_rows.AbsolutePosition(), -1);
+}
+
 TEST_F(RecordsetConflictTest, AChangeOfCaseAloneIsAChangeToo)
 {
     m_other.Execute(u"UPDATE T SET Nome = 'A' WHERE ID = 1"_s);

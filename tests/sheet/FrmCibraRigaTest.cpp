@@ -176,16 +176,24 @@ TEST_F(FrmCibraRigaTest, TextsAreNoLongerThanTheirColumn)
     EXPECT_EQ(control<QLineEdit>("Text1").maxLength(), 10);
 }
 
+TEST_F(FrmCibraRigaTest, TheLineOfChangesShowsWhileAPortionIsTypedAndGoesWhenItIsStored)
+{
+    show();
+    box(8).setText("90");
+    EXPECT_TRUE(visible("LineaModifica"));
+    enter(8, "90");
+    EXPECT_FALSE(visible("LineaModifica"));
+}
+
 TEST_F(FrmCibraRigaTest, ARowChangedByAnotherProgramMeanwhileIsToldAndTheOthersChangeIsKeptAndShown)
 {
     show();
     goToRow(1);
     dati.Execute("UPDATE SchedaPranzo SET quantita = 77, Totale1 = 269.5 WHERE ID = 2");
     enter(8, "90");
-    EXPECT_EQ(
-        world.dialoghi.boxes(),
-        QStringList("Msg1 \"Errore Generico\" Il record è stato modificato o cancellato da un altro programma: la "
-                    "modifica non è stata salvata [#@!? ... Errore!] 0 0 picture 3"));
+    EXPECT_EQ(world.dialoghi.boxes(),
+              QStringList("Msg1 \"Errore Generico\" Il record è stato modificato o cancellato nel frattempo: la "
+                          "modifica non è stata salvata [#@!? ... Errore!] 0 0 picture 3"));
     EXPECT_EQ(row(1), "Pranzo | Pasta | Pasta | 77 | 269,5 | 120 | 420");
     EXPECT_EQ(currentRow(), 1);
     EXPECT_EQ(text(8), "77");
@@ -346,6 +354,7 @@ TEST_F(FrmCibraRigaTest, TheFoodsToChooseAreReadAfreshAtEachOpeningAndTheFirstOn
     EXPECT_EQ(foodsToChoose().currentText(), "Aglio / 41");
     QTest::mouseDClick(&control<QWidget>("Frame2"), Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
     EXPECT_FALSE(visible("Frame2"));
+    EXPECT_EQ(world.programmi.started, QStringList()) << "the notes belong to the form's own ground";
 }
 
 TEST_F(FrmCibraRigaTest, AFoodReplacedBringsThePortionsOfItsFirstDishAndTheDayIsSummedAgain)
@@ -397,9 +406,8 @@ TEST_F(FrmCibraRigaTest, AFoodReplacedInARowThatAnotherHasChangedIsToldAndTheOth
     goToRow(1);
     dati.Execute("UPDATE SchedaPranzo SET Alimento = 'Farro' WHERE ID = 2");
     substitute("Zucca / 18");
-    EXPECT_EQ(failures,
-              QStringList("Il record è stato modificato o cancellato da un altro programma: la modifica non è "
-                          "stata salvata"));
+    EXPECT_EQ(failures, QStringList("Il record è stato modificato o cancellato nel frattempo: la modifica non è "
+                                    "stata salvata"));
     EXPECT_EQ(row(1), "Pranzo | Pasta | Farro | 100 | 350 | 120 | 420");
     EXPECT_EQ(text(3), "Farro");
 }

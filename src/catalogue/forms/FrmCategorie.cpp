@@ -49,6 +49,7 @@ void FrmCategorie::DataCombo1_LostFocus()
 void FrmCategorie::mnuDuplica_Click()
 {
     comandoRecord("mnuDuplica_Click ", [this] {
+        scriviCampi();
         DuplicaRecord(modulo(), *RsScheda, tabella());
         scriviPosizioneSalvata();
     });

@@ -47,8 +47,11 @@ FrmMenu::FrmMenu(FormHost &host, FormRegistry &registry, ModNetServer &modulo)
                                 {"KcNominale2", "KCal. "},
                                 {"Totale2", "Tot. "}});
     m_ui->TDBGrid1->setHost(&host);
-    for (const auto &[index, box] : ControlArray<QLineEdit>(this, "TxtFields"))
+    for (const auto &[index, box] : ControlArray<QLineEdit>(this, "TxtFields")) {
         m_TxtFields[index] = new CasellaLegata(box, kFields.at(index)); // a child of its box
+        m_ui->LineaModifica->segui(m_TxtFields[index]);
+    }
+    m_ui->LineaModifica->segui(m_righe.get());
     RiempiClassi(*m_ui->ComboTipo, *m_ui->ComboCategoria);
     dress();
     connectHandlers();
@@ -139,6 +142,7 @@ void FrmMenu::mostraPiatto(const QString &piatto)
 void FrmMenu::DataCombo1_Change()
 {
     Forma();
+    scriviPosizione("RecordSet Vuoto!!");
 }
 
 // An empty name opens the foods of all dishes, of which the first decides the dish. Where that has no name either, all
@@ -212,11 +216,23 @@ void FrmMenu::bindFields()
     }
 }
 
-// Whoever goes to another row in the grid sees where he is; the commands write the position at their own moment.
+// Whoever goes to another row in the grid sees where he is; the commands write the position at their own moment. A
+// pending row is written by the move, so that there is none to save any more.
 void FrmMenu::Righe_MoveComplete()
 {
-    if (!m_navigando && m_righe->isOpen())
-        scriviPosizione("RecordSet Vuoto!!");
+    if (m_navigando || !m_righe->isOpen())
+        return;
+    scriviPosizione("RecordSet Vuoto!!");
+    if (!m_righe->isAdding())
+        setInAttesa(false);
+}
+
+void FrmMenu::handlerFailed(const Failure &failure)
+{
+    if (failure.number() != FailureNumber::RowChanged || !m_righe->isOpen())
+        return;
+    m_righe->Resync();
+    scriviPosizione("RecordSet Vuoto!!");
 }
 
 void FrmMenu::scriviPosizione(const QString &empty)
@@ -346,9 +362,12 @@ void FrmMenu::Label6_Click()
         setInAttesa(false);
 }
 
+// A dish name that was typed over and never stored would delete another dish's links.
 void FrmMenu::Label7_Click()
 {
     const QScopedValueRollback navigating(m_navigando, true);
+    if (!m_righe->isAdding())
+        m_righe->CancelUpdate();
     if (!CancellaPiatto(m_modulo, *m_righe, TxtFields(2)->text()))
         return;
     elencaPiatti();
@@ -387,6 +406,7 @@ void FrmMenu::Command3_Click()
     CollegaAlGruppo(m_modulo, dish);
     mostraPiatto(dish.titolo);
     Forma();
+    scriviPosizione("RecordSet Vuoto!!");
     m_ui->Frame2->hide();
 }
 

@@ -26,6 +26,8 @@ public:
 protected:
     void Form_Load() override;
     void Form_KeyPress(int character) override;
+    // A row that somebody else has changed meanwhile is read again and comes on show.
+    void handlerFailed(const Failure &failure) override;
 
 private:
     void DataCombo1_Change();

@@ -5,20 +5,18 @@
 #include "core/ErrorLog.h"
 #include "core/Helpers.h"
 #include "core/Locations.h"
+#include "platform/ui/AvvisoModifica.h"
 #include "platform/ui/ControlArray.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/StatusPanels.h"
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
-
-#include <algorithm>
 
 namespace {
 
@@ -84,11 +82,8 @@ void SchedaRecord::findControls()
     m_picStatBox = findChild<QWidget *>("picStatBox");
     m_lblStatus = findChild<QLabel *>("lblStatus");
     m_barra = findChild<StatusPanels *>("StatusBar1");
-    if (auto *line = findChild<QFrame *>("LineaModifica")) {
-        QSizePolicy policy = line->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        line->setSizePolicy(policy);
-    }
+    m_linea = findChild<AvvisoModifica *>();
+    m_corpo = findChild<QWidget *>("Corpo");
     Q_ASSERT(m_griglia && m_picStatBox && m_lblStatus && m_barra);
     m_griglia->setHost(&host());
     m_griglia->hide();
@@ -152,7 +147,7 @@ void SchedaRecord::connectCommands()
     collegaBottone("cmdLast", &SchedaRecord::cmdLast_Click);
     collegaBottone("ImgMarvo", &SchedaRecord::ImgMarvo_Click);
     onWith(m_barra, &StatusPanels::panelClicked, this, &SchedaRecord::StatusBar1_PanelClick);
-    onDo(m_griglia, &QAbstractItemView::doubleClicked, [this] { nascondiGriglia(); });
+    onDo(m_griglia, &DataGrid::DblClick, [this] { nascondiGriglia(); });
 }
 
 void SchedaRecord::connectBoxes()
@@ -163,28 +158,13 @@ void SchedaRecord::connectBoxes()
         onDo(campo, &CampoLegato::left, [this, which = index] { TxtFields_LostFocus(which); });
         aggiungiCampo(campo);
     }
-    connect(RsScheda.get(), &Recordset::moveComplete, this, &SchedaRecord::mostraModifica);
-    connect(RsScheda.get(), &Recordset::rowChanged, this, &SchedaRecord::mostraModifica);
-    mostraModifica();
 }
 
 void SchedaRecord::aggiungiCampo(CampoLegato *altro)
 {
     m_legati.push_back(altro);
-    connect(altro, &CampoLegato::changed, this, &SchedaRecord::mostraModifica);
-}
-
-// A thin line tells that something typed is not in the archive yet.
-void SchedaRecord::mostraModifica()
-{
-    auto *line = findChild<QFrame *>("LineaModifica");
-    if (!line)
-        return;
-    const auto waits = [](const CampoLegato *one) {
-        const std::shared_ptr<Recordset> &source = one->dataSource();
-        return one->isChanged() || (source && source->isOpen() && source->isPending());
-    };
-    line->setVisible(std::any_of(m_legati.begin(), m_legati.end(), waits));
+    if (m_linea)
+        m_linea->segui(altro);
 }
 
 // Error routine
@@ -219,29 +199,8 @@ void SchedaRecord::dopoErrore(const Failure &errore)
 // The other program's values come on show; what was typed against them is given up.
 void SchedaRecord::rileggi()
 {
-    const int posizione = RsScheda->AbsolutePosition();
-    const Value chiave = posizione > 0 && RsScheda->hasField("ID")
-                             ? RsScheda->valueAt(posizione - 1, RsScheda->fieldIndex("ID"))
-                             : Value();
-    RsScheda->CancelUpdate();
-    RsScheda->Requery();
-    tornaSu(chiave, posizione);
+    RsScheda->Resync();
     scriviPosizioneSalvata();
-    mostraModifica();
-}
-
-// The row of that key, or where it is gone the one that has taken its place.
-void SchedaRecord::tornaSu(const Value &chiave, int posizione)
-{
-    const int count = RsScheda->RecordCount();
-    if (count == 0)
-        return;
-    int row = std::clamp(posizione, 1, count) - 1;
-    for (int i = 0; !chiave.isNull() && i < count; ++i) {
-        if (RsScheda->valueAt(i, RsScheda->fieldIndex("ID")) == chiave)
-            row = i;
-    }
-    RsScheda->Move(row + 1 - RsScheda->AbsolutePosition());
 }
 
 int SchedaRecord::messaggio(const QString &titolo, const QString &corpo, const QStringList &bottoni, int immagine) const
@@ -347,6 +306,8 @@ void SchedaRecord::apriScheda()
 
 void SchedaRecord::legaCampi(const std::shared_ptr<Recordset> &recordset)
 {
+    if (m_linea)
+        m_linea->segui(recordset.get());
     for (const auto &[index, casella] : m_campi) {
         casella->setDataSource(recordset);
         limitaCampo(*casella, recordset->field(recordset->fieldIndex(casella->dataField())));
@@ -420,7 +381,6 @@ void SchedaRecord::TxtFields_LostFocus(int index)
 void SchedaRecord::lasciato(const QString &handler, CampoLegato &campo, const std::function<void()> &passi)
 {
     const bool written = comando(handler, passi);
-    mostraModifica();
     if (!written && campo.isChanged())
         QTimer::singleShot(0, &campo, [&campo] { campo.takeFocus(); });
 }

@@ -4,14 +4,13 @@
 // A form made from it has in its .ui file the text boxes TxtFields_<n>, each with a dynamic property DataField, the
 // grid MyGriglia, picStatBox with cmdFirst, cmdPrevious, cmdNext, cmdLast and lblStatus, the bar StatusBar1, and those
 // of the menu entries below that it offers. It calls prepara() behind setupUi and says in the hooks what it does its
-// own way:
+// own way. The .ui file may also have an AvvisoModifica, which shows while something typed is not stored yet.
 //
 //   FrmCategorie::FrmCategorie(FormHost &host, ModNetServer &modulo) : SchedaRecord("FrmCategorie", host, modulo)
 //   {
 //       m_ui->setupUi(this);
 //       prepara({{"F5 New", "Aggiunge un Nuovo Record "}, {"F4 Ricerca", "Ricerca"}, ...});
 //   }
-//   // The .ui file may also have a thin frame LineaModifica, which shows while something typed is not stored yet.
 //   QString istruzione() const override { return "SELECT * FROM Categorie"; }
 //
 // Every handler runs inside comando(), the error routine: what fails in it is shown and logged under the handler's own
@@ -30,6 +29,7 @@
 #include <vector>
 
 class DataGrid;
+class AvvisoModifica;
 class QAction;
 class QLabel;
 class QMenu;
@@ -186,8 +186,6 @@ private:
     void cercaOAvvisa(int posizione);
     void mostraGriglia();
     void rileggi();
-    void tornaSu(const Value &chiave, int posizione);
-    void mostraModifica();
     void passiAvvio();
     void pannelloStato(const QString &testo);
     QString inEsecuzione() const;
@@ -195,6 +193,8 @@ private:
     ModNetServer &m_modulo;
     std::map<int, CasellaLegata *> m_campi;
     std::vector<CampoLegato *> m_legati; // all bound controls, m_campi among them
+    AvvisoModifica *m_linea = nullptr;   // null where the form has none
+    QWidget *m_corpo = nullptr;          // what MyGriglia covers, out of the keyboard's reach meanwhile; or null
     DataGrid *m_griglia = nullptr;
     QWidget *m_picStatBox = nullptr;
     QLabel *m_lblStatus = nullptr;

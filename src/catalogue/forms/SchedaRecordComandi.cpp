@@ -15,9 +15,9 @@ void SchedaRecord::MnuRicerca_Click()
         const int posizione = RsScheda->AbsolutePosition();
         UltimoCriterio = m_modulo.mondo.dialoghi.InputBox(richiestaRicerca(), "RICERCA");
         if (!UltimoCriterio.isEmpty()) {
+            UltimoCriterio = CriterioRicerca(campoRicerca(), UltimoCriterio);
             if (RsScheda->RecordCount() > 0)
                 RsScheda->MoveFirst();
-            UltimoCriterio = CriterioRicerca(campoRicerca(), UltimoCriterio);
             cercaOAvvisa(posizione);
         }
         scriviPosizioneSalvata();
@@ -50,7 +50,10 @@ void SchedaRecord::cercaOAvvisa(int posizione)
 
 void SchedaRecord::mnuGriglia_Click()
 {
-    comandoRecord("mnuGriglia_Click ", [this] { m_griglia->isHidden() ? mostraGriglia() : nascondiGriglia(); });
+    comandoRecord("mnuGriglia_Click ", [this] {
+        scriviCampi();
+        m_griglia->isHidden() ? mostraGriglia() : nascondiGriglia();
+    });
 }
 
 void SchedaRecord::pannelloGriglia()
@@ -63,6 +66,8 @@ void SchedaRecord::pannelloGriglia()
 
 void SchedaRecord::nascondiGriglia()
 {
+    if (m_corpo)
+        m_corpo->setEnabled(true);
     m_griglia->hide();
 }
 
@@ -72,6 +77,8 @@ void SchedaRecord::mostraGriglia()
     m_griglia->show();
     m_griglia->raise();
     m_griglia->setFocus();
+    if (m_corpo)
+        m_corpo->setEnabled(false);
 }
 
 void SchedaRecord::MnuRefresh_Click()

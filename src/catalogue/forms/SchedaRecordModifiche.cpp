@@ -19,7 +19,7 @@ constexpr int kLivelloCancella = 6; // the level that may really delete
 
 void SchedaRecord::MnuAdd_Click()
 {
-    comandoRecord("MnuAdd_Click ", [this] {
+    const auto passi = [this] {
         pannelloStato("Procedura " + windowTitle() + " Inserimento Nuovo Record");
         m_modulo.schermate.nascondiErroreSfondo();
         RsScheda->AddNew();
@@ -30,7 +30,11 @@ void SchedaRecord::MnuAdd_Click()
         MnuDisabilita();
         for (CampoLegato *one : m_legati)
             one->show();
-        mostraModifica();
+    };
+    // A row that got no key must not wait to be stored.
+    comandoRecord("MnuAdd_Click ", passi, [this](const Failure &) {
+        if (RsScheda->isAdding())
+            RsScheda->CancelUpdate();
     });
 }
 
@@ -67,7 +71,6 @@ void SchedaRecord::MnuUpdate_Click()
             SalvatoOk = true;
             Stato = "V";
             mnuAbilita();
-            mostraModifica();
         },
         [this](const Failure &errore) { ripara(errore); });
 }

@@ -78,7 +78,7 @@ void Sostituti::connectHandlers()
     for (DataGrid *grid : {m_ui->TDBGrid1, m_ui->TDBGrid2}) {
         grid->setHost(&host());
         grid->installEventFilter(this);
-        on(grid, &DataGrid::clicked, this, &Sostituti::mostraIngredienti);
+        on(grid, &DataGrid::Click, this, &Sostituti::mostraIngredienti);
     }
 }
 
@@ -138,6 +138,7 @@ void Sostituti::Forma()
     m_ui->TDBGrid1->refresh();
     m_ui->Text2->clear();
     m_ui->Text1->setText(dish);
+    m_ui->Text1->setCursorPosition(0);
     const TotaliPiatto totals = SommaPiatto(m_modulo.dati(), dish);
     m_ui->Label5->setText(totals.prima);
     m_ui->Label7->setText(totals.seconda);

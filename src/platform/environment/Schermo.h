@@ -4,7 +4,7 @@
 namespace MousePointer {
 constexpr int Default = 0;
 constexpr int Hourglass = 11;
-}
+} // namespace MousePointer
 
 class Schermo
 {
@@ -15,4 +15,17 @@ public:
     // Lets the window repaint during a long operation, and tells whether Esc was pressed meanwhile. No other event of
     // the user gets through.
     virtual bool breathe() = 0;
+};
+
+// Sets the pointer back at the end of a long operation, also where it fails.
+class PuntatoreLibero
+{
+public:
+    explicit PuntatoreLibero(Schermo &screen) : m_screen(screen) {}
+    ~PuntatoreLibero() { m_screen.setMousePointer(MousePointer::Default); }
+    PuntatoreLibero(const PuntatoreLibero &) = delete;
+    PuntatoreLibero &operator=(const PuntatoreLibero &) = delete;
+
+private:
+    Schermo &m_screen;
 };

@@ -224,6 +224,16 @@ void Recordset::Requery()
     emit moveComplete();
 }
 
+void Recordset::Resync()
+{
+    m_private->needOpen();
+    for (RowEditor *editor : m_editors)
+        editor->dropTyped();
+    m_private->reload();
+    emit opened();
+    emit moveComplete();
+}
+
 bool Recordset::isPending() const
 {
     return bool(m_private->pending);

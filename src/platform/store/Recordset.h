@@ -89,6 +89,9 @@ public:
     void CancelUpdate(); // drops what is pending; after AddNew the former row is current again
     void Delete();
     void Requery();
+    // After RowChanged: what waits is given up, all rows are read again, and the row of the same key is current once
+    // more, or the one in its place where it is gone.
+    void Resync();
     bool isPending() const; // a new or changed row waits for Update
     bool isAdding() const;  // the pending row is a new one
 

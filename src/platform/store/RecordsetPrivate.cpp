@@ -103,6 +103,25 @@ void Recordset::Private::applyFilter()
     rows.filter([&](std::uint32_t row) { return criterion.passes(cellValue(snapshot.row(row)[field], type)); });
 }
 
+void Recordset::Private::reload()
+{
+    const std::optional<qint64> key = currentKey();
+    const int position = rows.position();
+    load();
+    applyFilter();
+    rows.moveTo(std::clamp(position, 0, std::max(rows.count() - 1, 0)));
+    for (int i = 0; key && i < rows.count(); ++i)
+        if (snapshot.row(rows.row(i))[shape->keyCell()].whole == *key)
+            rows.moveTo(i);
+}
+
+std::optional<qint64> Recordset::Private::currentKey() const
+{
+    if (!shape->updatable() || !rows.onRow() || pending.kind() == PendingRow::Kind::New)
+        return std::nullopt;
+    return snapshot.row(rows.row(rows.position()))[shape->keyCell()].whole;
+}
+
 void Recordset::Private::find(const Criterion &criterion)
 {
     const int field = needFieldNamed(criterion.column());

@@ -9,6 +9,7 @@
 #include "platform/store/Snapshot.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class Criterion;
@@ -32,6 +33,7 @@ struct Recordset::Private
 
     void load(); // runs the statement anew, the cursor on the first row
     void applyFilter();
+    void reload(); // load and applyFilter, the cursor on the row of the same key or in its place
     void find(const Criterion &criterion);
     int fieldNamed(QStringView name) const; // -1 where there is none
     int needFieldNamed(const QString &name) const;
@@ -45,6 +47,7 @@ struct Recordset::Private
 
 private:
     std::shared_ptr<Database> connected() const; // throws ConnectionClosed
+    std::optional<qint64> currentKey() const;    // of a row that the archive has
     void forgetAppended();
     void writeNew(Database &opened, const std::vector<CellChange> &cells);
     void writeEdit(Database &opened, const std::vector<CellChange> &changes);

@@ -1,8 +1,8 @@
 #include "platform/ui/DataCombo.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
-#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
@@ -65,10 +65,11 @@ void DataCombo::showPopup()
     QComboBox::showPopup();
 }
 
-// Up and Down go on from the day that is shown, not from the last one picked.
+// These keys go on from the day that is shown, not from the last one picked.
 void DataCombo::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)
+    const int key = event->key();
+    if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown)
         standOnText();
     QComboBox::keyPressEvent(event);
 }
@@ -90,4 +91,5 @@ void DataCombo::showText(const QString &text, int index)
 {
     setCurrentIndex(index);
     setEditText(text);
+    lineEdit()->setCursorPosition(0); // a name longer than the box shows its beginning
 }

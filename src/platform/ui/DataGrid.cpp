@@ -4,6 +4,8 @@
 #include "platform/ui/Form.h"
 #include "platform/ui/GridHeader.h"
 
+#include <QMouseEvent>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -187,14 +189,43 @@ void DataGrid::currentChanged(const QModelIndex &current, const QModelIndex &pre
     QTableView::currentChanged(current, previous);
     if (m_private->following || !current.isValid() || current.row() == previous.row())
         return;
+    moveOrTell(current.row());
+}
+
+// Where the record set could not move the grid goes back to its row, once the view has finished choosing the new one.
+void DataGrid::moveOrTell(int row)
+{
     FormHost *const guard = host();
-    const int row = current.row();
     if (!guard) {
         moveRecordset(row);
         return;
     }
-    guard->guarded([this, row] { moveRecordset(row); });
-    followRecordset(); // back again, where the move failed
+    guard->guarded([this, row] {
+        try {
+            moveRecordset(row);
+        } catch (const Failure &failure) {
+            QMetaObject::invokeMethod(
+                this, [this, failure] { afterFailure(failure); }, Qt::QueuedConnection);
+            throw;
+        }
+    });
+    followRecordset();
+}
+
+void DataGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    const QPointer<DataGrid> alive(this);
+    QTableView::mouseReleaseEvent(event);
+    if (alive && event->button() == Qt::LeftButton)
+        emit Click();
+}
+
+void DataGrid::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    const QPointer<DataGrid> alive(this);
+    QTableView::mouseDoubleClickEvent(event);
+    if (alive && event->button() == Qt::LeftButton)
+        emit DblClick();
 }
 
 void DataGrid::moveRecordset(int row)
@@ -235,7 +266,20 @@ void DataGrid::tell(const Failure &failure)
     if (!guard)
         throw failure;
     QMetaObject::invokeMethod(
-        this, [guard, failure] { guard->guarded([&failure] { throw failure; }); }, Qt::QueuedConnection);
+        this,
+        [this, guard, failure] {
+            guard->guarded([&failure] { throw failure; });
+            guard->guarded([this, &failure] { afterFailure(failure); });
+        },
+        Qt::QueuedConnection);
+}
+
+void DataGrid::afterFailure(const Failure &failure)
+{
+    const std::shared_ptr<Recordset> recordset = dataSource();
+    if (failure.number() == FailureNumber::RowChanged && recordset && recordset->isOpen())
+        recordset->Resync();
+    followRecordset();
 }
 
 // The theme's captions are bolder than the header's own font.

@@ -2,7 +2,8 @@
 //
 // It is read-only but for the columns that say otherwise. An edited cell is written at once, by setValue and Update of
 // the record set; where that fails the failure is told and the cell shows the stored value again. A yes/no field is a
-// box that a click anywhere in its cell, or the space bar, ticks.
+// box that a click anywhere in its cell, or the space bar, ticks. A row that somebody else has changed meanwhile is
+// told, and all rows are read again.
 #pragma once
 
 #include "platform/store/Recordset.h"
@@ -43,15 +44,24 @@ public:
     // The data field of a column, for whoever reads the grid by program.
     QString columnField(int column) const;
 
+signals:
+    // A click and a double click anywhere in the grid, below its rows too.
+    void Click();
+    void DblClick();
+
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void followRecordset();
     void moveRecordset(int row);
+    void moveOrTell(int row);
     bool write(int row, int field, const Value &value);
     void tell(const Failure &failure);
+    void afterFailure(const Failure &failure);
     void fitColumns();
     int captionWidth(int column) const;
     void fillWidth();

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QWindow>
 
+#include <optional>
+
 namespace {
 
 constexpr int kEscape = 27;
@@ -181,7 +183,17 @@ void Form::runHandler(const std::function<void()> &handler)
     if (m_unloading)
         return;
     const Busy busy(*this);
-    m_host.guarded(handler);
+    std::optional<Failure> failed;
+    m_host.guarded([&] {
+        try {
+            handler();
+        } catch (const Failure &failure) {
+            failed = failure;
+            throw;
+        }
+    });
+    if (failed && !m_unloading)
+        m_host.guarded([&] { handlerFailed(*failed); });
 }
 
 void Form::runResize()

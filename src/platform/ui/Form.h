@@ -78,6 +78,8 @@ protected:
     {
         connect(sender, signal, this, [this, handler = std::move(handler)](auto &&...) { runHandler(handler); });
     }
+    // A handler has failed, and the user was told.
+    virtual void handlerFailed(const Failure &failure) { (void)failure; }
     // Runs `handler` inside the guard; the form outlives it. Nothing runs on an unloaded form.
     void runHandler(const std::function<void()> &handler);
 

@@ -39,19 +39,6 @@ constexpr std::array kCaselleGrigie{1, 2, 4, 5, 6, 7, 10};
 
 constexpr QSize kPiuGrande(160, 52); // of a picture beside the prints
 
-// The mouse pointer that the balancing leaves busy is set back at the end of its caller, also when that is a failure.
-class PuntatoreLibero
-{
-public:
-    explicit PuntatoreLibero(Schermo &screen) : m_screen(screen) {}
-    ~PuntatoreLibero() { m_screen.setMousePointer(MousePointer::Default); }
-    PuntatoreLibero(const PuntatoreLibero &) = delete;
-    PuntatoreLibero &operator=(const PuntatoreLibero &) = delete;
-
-private:
-    Schermo &m_screen;
-};
-
 std::vector<GridColumn> gridColumns()
 {
     return {{"DataInserimento", "Data"},    {"PranzoCenaSpuntino", "Pranzo Cena Spuntino"},
@@ -176,7 +163,6 @@ void FrmCibra::connectRowCommands()
 
 void FrmCibra::watchMouse()
 {
-    m_ui->MyGriglia->viewport()->installEventFilter(this);
     for (QWidget *control : std::initializer_list<QWidget *>{
              m_ui->centralwidget, m_ui->Foglio, m_ui->TDBGrid1->viewport(), m_ui->Riga, m_ui->Inserimento, m_ui->Frame1,
              m_ui->Frame2, m_ui->Check1, m_ui->Command1, m_ui->Command5, m_ui->Command6}) {
@@ -470,11 +456,10 @@ void FrmCibra::Form_KeyPress(int character)
 
 bool FrmCibra::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->Frame2 && event->type() == QEvent::MouseButtonDblClick)
+    if (watched == m_ui->Frame2 && event->type() == QEvent::MouseButtonDblClick) {
         runHandler([this] { Command4_Click(); });
-    // Also below the last row, where the grid itself knows of no double click.
-    if (watched == m_ui->MyGriglia->viewport() && event->type() == QEvent::MouseButtonDblClick)
-        runHandler([this] { nascondiGriglia(); });
+        return true; // not of the ground that now lies under the mouse
+    }
     if (event->type() != QEvent::MouseMove)
         return SchedaRecord::eventFilter(watched, event);
     const bool hasHint = mouseMovedOver(watched);

@@ -66,11 +66,7 @@ void FrmCibra::writeRow()
 
 void FrmCibra::restoreRow()
 {
-    Datsecondaryrs->CancelUpdate();
-    const int position = Datsecondaryrs->AbsolutePosition();
-    Datsecondaryrs->Requery();
-    if (position > 1 && position <= Datsecondaryrs->RecordCount())
-        Datsecondaryrs->Move(position - 1);
+    Datsecondaryrs->Resync();
     Totali();
 }
 
