@@ -12,6 +12,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <csignal>
+
 namespace {
 
 struct Result
@@ -255,6 +257,40 @@ TEST_F(CibraArchivioTest, ACopyIsPutBackWithThePasswordFromTheInput)
                             .arg(path, copy, kept.constFirst()));
     Connection archive;
     EXPECT_TRUE(archive.Open(path, "segreta"));
+}
+
+// The keys of a password take their time, in which the unfinished file lies beside its place.
+TEST_F(CibraArchivioTest, AnImportThatIsInterruptedLeavesNothingBehind)
+{
+    for (int number : {SIGINT, SIGTERM, SIGHUP}) {
+        QProcess tool;
+        tool.start(QStringLiteral(CIBRA_ARCHIVIO), {"importa", sample("password97.mdb"), path});
+        tool.write("segreta\n");
+        tool.closeWriteChannel();
+        ASSERT_TRUE(tool.waitForStarted());
+        while (files().isEmpty() && !tool.waitForFinished(1))
+            ;
+        ASSERT_EQ(kill(pid_t(tool.processId()), number), 0);
+        ASSERT_TRUE(tool.waitForFinished(60000));
+        EXPECT_EQ(tool.exitStatus(), QProcess::CrashExit) << number;
+        EXPECT_EQ(files(), QStringList()) << number;
+    }
+}
+
+TEST_F(CibraArchivioTest, ASignalThatIsIgnoredStopsNoImport)
+{
+    QProcess tool;
+    tool.start("/bin/sh", {"-c", "trap '' HUP; exec \"$0\" importa \"$1\" \"$2\"", CIBRA_ARCHIVIO,
+                           sample("password97.mdb"), path});
+    tool.write("segreta\n");
+    tool.closeWriteChannel();
+    ASSERT_TRUE(tool.waitForStarted());
+    while (files().isEmpty() && !tool.waitForFinished(1))
+        ;
+    ASSERT_EQ(kill(pid_t(tool.processId()), SIGHUP), 0);
+    ASSERT_TRUE(tool.waitForFinished(60000));
+    EXPECT_EQ(tool.exitCode(), 0);
+    EXPECT_EQ(files(), QStringList("famiglia.db"));
 }
 
 } // namespace

@@ -7,7 +7,13 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QProcess>
 #include <QtEndian>
+#include <QThread>
+
+#include <functional>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -68,6 +74,31 @@ private:
     qsizetype m_page;
     QByteArray m_bytes;
 };
+
+constexpr int kLong = 60000; // milliseconds, more than any machine takes
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Also a process that nobody has asked yet how it ended.
+bool isGone(const QString &process)
+{
+    const QByteArray state = contentOf(process + "/stat");
+    return state.isEmpty() || state.mid(state.lastIndexOf(')')).startsWith(") Z");
+}
+
+bool comesTrue(const std::function<bool()> &condition)
+{
+    for (int waited = 0; waited < kLong; waited += 10) {
+        if (condition())
+            return true;
+        QThread::msleep(10);
+    }
+    return false;
+}
 
 class LeggiMdbTest : public ::testing::Test
 {
@@ -207,6 +238,23 @@ TEST_F(LeggiMdbTest, ALetterThatAnotherCodePageLacksIsTold)
     EXPECT_EQ(noteDi(old),
               QStringList({"i testi sono della tabella di codici 1253",
                            "Nocorrispondenza: lettere che la tabella di codici del file non ha, ora \"?\""}));
+}
+
+// The reading is of no use to anybody once whoever asked for it was killed. It hangs here, in the opening of a pipe.
+TEST_F(LeggiMdbTest, TheReadingEndsWithWhoeverAskedForIt)
+{
+    const QString pipe = folder.path("vecchio.mdb");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QProcess shell;
+    shell.start("/bin/sh", {"-c", "\"$0\" leggi-mdb \"$1\" & echo $!; wait", CIBRA_ARCHIVIO, pipe});
+    ASSERT_TRUE(shell.waitForReadyRead(kLong));
+    const QString process = "/proc/" + QString::fromLatin1(shell.readLine()).trimmed();
+    // It has taken its limits, so it has said before with whom it ends.
+    ASSERT_TRUE(comesTrue([&] { return contentOf(process + "/limits").contains("Max cpu time              600"); }));
+    EXPECT_FALSE(isGone(process));
+    shell.kill();
+    EXPECT_TRUE(shell.waitForFinished(kLong));
+    EXPECT_TRUE(comesTrue([&] { return isGone(process); }));
 }
 
 // Wherever a file that was cut is filled up with zeros, it is refused, or nothing of it lacks.

@@ -107,15 +107,79 @@ TEST_F(OffriImportazioneTest, APasswordIsAskedForOnceAndAWrongOneIsTold)
     EXPECT_EQ(rowCounts(world.cartella.path("casa.db"), "segreta").value("SchedaPranzo"), 60);
 }
 
-TEST_F(OffriImportazioneTest, ALongReportIsShownAsFarAsItFits)
+TEST_F(OffriImportazioneTest, OfALongReportTheCountsOfWholeTablesAreDroppedFirst)
 {
-    QStringList lines;
-    for (int i = 1; i <= 22; ++i)
-        lines += QString("riga %1").arg(i);
-    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')), lines.join(u'\n'));
-    const QStringList longer = lines + QStringList({"riga 23", "riga 24"});
-    EXPECT_EQ(RapportoInBreve(longer.join(u'\n')), lines.mid(0, 21).join(u'\n') + "\n... e altre 3 righe");
+    QStringList lines = {"Formato Jet 4, tabelle 20"};
+    for (int i = 1; i <= 20; ++i)
+        lines += QString("Tabella%1: righe lette %2, scritte %2").arg(i).arg(i * 10);
+    lines += "Da notare: la query \"x\" non è portata";
+    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')), lines.join(u'\n')) << "22 lines have room";
+    lines += "Tabelle che il file non ha, lasciate vuote: Menu";
+    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')),
+              "Formato Jet 4, tabelle 20\nDi ogni tabella sono scritte tutte le righe lette\n"
+              "Da notare: la query \"x\" non è portata\nTabelle che il file non ha, lasciate vuote: Menu");
     EXPECT_EQ(RapportoInBreve(""), "");
+}
+
+TEST_F(OffriImportazioneTest, ALineThatTheBoxBreaksCountsAsSeveral)
+{
+    QStringList lines = {"Formato Jet 4, tabelle 1"};
+    const QString note = "Da notare: " + QString(160, 'x');
+    for (int i = 0; i < 7; ++i)
+        lines += note;
+    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')), lines.join(u'\n')) << "three lines each";
+    lines += note;
+    EXPECT_EQ(RapportoInBreve(lines.join(u'\n')),
+              "Formato Jet 4, tabelle 1\nDi ogni tabella sono scritte tutte le righe lette\n" +
+                  QStringList(6, note).join(u'\n') + "\n... e altre righe: 2");
+}
+
+TEST_F(OffriImportazioneTest, AReportThatDoesNotFitLiesWholeBesideTheArchive)
+{
+    putOld("casa.mdb", "famiglia97.mdb");
+    world.cartella.write("casa-importazione.txt", "di qualcuno");
+    world.dialoghi.answer(MsgAnswer::Si);
+    EXPECT_EQ(OffriImportazione(world.modulo, folder(), "casa.mdb"), "casa.db");
+    const QStringList boxes = world.dialoghi.boxes();
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_EQ(boxes[1], "MsgBox 64 \"Importazione archivio\" Il nuovo archivio è \"casa.db\".\n\n"
+                        "Formato Jet 3, tabelle 15\n"
+                        "Di ogni tabella sono scritte tutte le righe lette\n"
+                        "Tabelle che il programma non usa, portate come sono: Appunti di casa\n"
+                        "Da notare: Amministratori: la colonna \"Nome\" non è del programma ed è portata com'è\n"
+                        "Da notare: Clienti: la colonna \"predefinito\" non è del programma ed è portata com'è\n"
+                        "Da notare: Alimenti.quantita: valori di un altro tipo, convertiti: 4\n\n"
+                        "Il resoconto intero è in \"casa-2-importazione.txt\".");
+    EXPECT_EQ(world.cartella.read("casa-importazione.txt"), "di qualcuno");
+    const QByteArray whole = world.cartella.read("casa-2-importazione.txt");
+    EXPECT_EQ(whole.count("\r\n"), 20);
+    EXPECT_TRUE(whole.startsWith("Formato Jet 3, tabelle 15\r\nCategorie: righe lette 20, scritte 20\r\n") &&
+                whole.endsWith("Da notare: Alimenti.quantita: valori di un altro tipo, convertiti: 4\r\n"))
+        << whole.constData();
+}
+
+// The keys of a password take longer than the program waits between two looks at the keyboard.
+TEST_F(OffriImportazioneTest, EscGivesTheImportUpAndNothingIsLeftOfIt)
+{
+    putOld("casa.mdb", "password97.mdb");
+    world.dialoghi.answer(MsgAnswer::Si);
+    world.dialoghi.answerText("segreta");
+    world.schermo.onBreath = [this] { world.schermo.escAtBreath = world.dialoghi.boxes().size() > 1 ? 1 : 0; };
+    EXPECT_EQ(conferma("casa.mdb"), DopoConferma::LasciaAperto);
+    EXPECT_EQ(world.dialoghi.boxes(),
+              QStringList({question("casa.mdb", "casa.db"), kPassword,
+                           "MsgBox 16 \"Importazione archivio\" L'importazione è stata interrotta con Esc. Niente è "
+                           "stato importato"}));
+    EXPECT_EQ(world.cartella.entries(), QStringList({"INI/", "casa.mdb"}));
+    EXPECT_EQ(world.schermo.pointers.back(), MousePointer::Default);
+}
+
+TEST_F(OffriImportazioneTest, NamesMayHaveAccentsBlanksAndSigns)
+{
+    putOld("dischetto 1/città d'oro.mdb", "netserver97.mdb");
+    world.dialoghi.answer(MsgAnswer::Si);
+    EXPECT_EQ(OffriImportazione(world.modulo, folder() + "/dischetto 1", "città d'oro.mdb"), "città d'oro.db");
+    EXPECT_EQ(world.cartella.entries("dischetto 1"), QStringList({"città d'oro.db", "città d'oro.mdb"}));
 }
 
 TEST_F(OffriImportazioneTest, AnArchiveOfThisProgramIsTakenWithoutAWord)

@@ -19,14 +19,26 @@ QString nomeLibero(const QString &path)
     return base + QString::number(number);
 }
 
+// The file itself and those that the engine puts beside it.
+QStringList tuttiDi(const QString &path)
+{
+    QStringList files;
+    for (const char *tail : {"", "-wal", "-shm", "-journal"})
+        files += path + QLatin1String(tail);
+    return files;
+}
+
 } // namespace
 
-FileProvvisorio::FileProvvisorio(const QString &path) : m_finalPath(path), m_path(nomeLibero(path)) {}
+FileProvvisorio::FileProvvisorio(const QString &path)
+    : m_finalPath(path), m_path(nomeLibero(path)), m_alSegnale(tuttiDi(m_path))
+{
+}
 
 FileProvvisorio::~FileProvvisorio()
 {
-    for (const char *tail : {"", "-wal", "-shm", "-journal"})
-        QFile::remove(m_path + QLatin1String(tail));
+    for (const QString &file : tuttiDi(m_path))
+        QFile::remove(file);
 }
 
 void FileProvvisorio::diventaNuovo() const

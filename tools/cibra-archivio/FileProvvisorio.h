@@ -1,6 +1,8 @@
 // A file under construction, beside the one that it is to become.
 #pragma once
 
+#include "ToltiAlSegnale.h"
+
 #include <QString>
 
 class FileProvvisorio
@@ -8,7 +10,7 @@ class FileProvvisorio
 public:
     // Takes a free name in the folder of `path`; nothing is made yet.
     explicit FileProvvisorio(const QString &path);
-    ~FileProvvisorio(); // whatever still bears the name is removed
+    ~FileProvvisorio(); // whatever still bears the name is removed; so it is where a signal ends the process
     FileProvvisorio(const FileProvvisorio &) = delete;
     FileProvvisorio &operator=(const FileProvvisorio &) = delete;
 
@@ -21,4 +23,5 @@ public:
 private:
     QString m_finalPath;
     QString m_path;
+    ToltiAlSegnale m_alSegnale;
 };

@@ -8,6 +8,7 @@
 #include "TestataMdb.h"
 #include "VerificaArchivio.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -204,10 +205,18 @@ private:
     QMap<int, int> m_zeros; // texts that hold a null character, by column: what a damaged disk leaves, or old programs
 };
 
-void scrivi(const QString &path, const QString &password, const ContenutoMdb &content, const PianoImportazione &plan,
-            RapportoImportazione &report)
+// Whoever could read and write the old file, and nobody else; the owner always may.
+void dirittiDi(const QString &from, const QString &path)
+{
+    constexpr QFile::Permissions kNever = QFile::ExeOwner | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther;
+    QFile::setPermissions(path, (QFileInfo(from).permissions() & ~kNever) | QFile::ReadOwner | QFile::WriteOwner);
+}
+
+void scrivi(const QString &path, const QString &from, const QString &password, const ContenutoMdb &content,
+            const PianoImportazione &plan, RapportoImportazione &report)
 {
     ArchiveBuilder builder(path, password);
+    dirittiDi(from, path); // before anything is in it
     builder.run(plan.script);
     for (const TabellaPrevista &table : plan.tabelle) {
         ScritturaTabella writing(content.tabelle[size_t(table.sorgente)], table);
@@ -217,21 +226,41 @@ void scrivi(const QString &path, const QString &password, const ContenutoMdb &co
     builder.finish();
 }
 
+// What goes wrong with the new archive is told with the folder in which it does: the disk may be full.
+template <typename Work>
+void nellaCartella(const QString &folder, const QString &task, const Work &work)
+{
+    try {
+        work();
+    } catch (const Failure &failure) {
+        throw rifiuto(failure.number(), QStringLiteral("L'archivio nuovo non si può %1 nella cartella \"%2\": %3. "
+                                                       "Niente è stato importato")
+                                            .arg(task, folder, failure.words()));
+    }
+}
+
 // Nothing counts but what the finished archive itself says.
 void controlla(const QString &path, const QString &password, const ContenutoMdb &content, const PianoImportazione &plan,
                RapportoImportazione &report)
 {
-    const Verifica check = verificaArchivio(path, password);
+    Verifica check;
+    QMap<QString, qint64> rows;
+    nellaCartella(QDir::tempPath(), QStringLiteral("controllare"), [&] {
+        check = verificaArchivio(path, password);
+        if (check.esito == Verifica::Esito::InOrdine)
+            rows = rowCounts(path, password);
+    });
     if (check.esito != Verifica::Esito::InOrdine)
-        throw rifiuto(FailureNumber::Engine, QStringLiteral("L'archivio nuovo non supera il controllo: %1")
-                                                 .arg(check.guasti.join(QStringLiteral("; "))));
-    const QMap<QString, qint64> rows = rowCounts(path, password);
+        throw rifiuto(FailureNumber::Engine,
+                      QStringLiteral("L'archivio nuovo non supera il controllo: %1. Niente è stato importato")
+                          .arg(check.guasti.join(QStringLiteral("; "))));
     for (const TabellaPrevista &table : plan.tabelle) {
         const qint64 read = content.tabelle[size_t(table.sorgente)].righeDichiarate;
         const qint64 written = rows.value(table.nome, -1);
         if (read != written)
             throw rifiuto(FailureNumber::Engine,
-                          QStringLiteral("Nell'archivio nuovo la tabella \"%1\" ha %2 righe invece di %3")
+                          QStringLiteral("Nell'archivio nuovo la tabella \"%1\" ha righe: %2 invece di %3. Niente è "
+                                         "stato importato")
                               .arg(table.nome)
                               .arg(written)
                               .arg(read));
@@ -255,8 +284,8 @@ RapportoImportazione importaArchivio(const QString &from, const QString &to, con
 {
     const TestataMdb head = testataDi(from);
     rifiutaEstraneo(from, head);
-    controllaPassword(from, head, password);
     controllaPosto(to);
+    controllaPassword(from, head, password);
 
     const ContenutoMdb content = contenutoDi(from, reader, head);
     const PianoImportazione plan = pianoImportazione(content);
@@ -267,7 +296,8 @@ RapportoImportazione importaArchivio(const QString &from, const QString &to, con
     report.note = plan.note;
 
     const FileProvvisorio file(to);
-    scrivi(file.path(), head.password, content, plan, report);
+    nellaCartella(QFileInfo(to).absolutePath(), QStringLiteral("scrivere"),
+                  [&] { scrivi(file.path(), from, head.password, content, plan, report); });
     controlla(file.path(), head.password, content, plan, report);
     file.diventaNuovo();
     return report;

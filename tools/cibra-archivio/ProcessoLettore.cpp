@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <algorithm>
+
 namespace {
 
 // A bit of the file (a yes/no value, a null) makes up to four bytes of the stream.
@@ -41,9 +43,15 @@ public:
 
     ContenutoMdb run()
     {
-        while (m_process.waitForReadyRead(m_wait))
+        QElapsedTimer silent;
+        silent.start();
+        while (m_process.waitForReadyRead(m_wait)) {
             take();
-        if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(m_wait))
+            silent.start();
+        }
+        // A reading that ends its output may take the rest of the time to end itself.
+        const int rest = std::max(0, m_wait - int(silent.elapsed()));
+        if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(rest))
             guasto(QStringLiteral("la lettura non finisce"));
         take();
         if (m_process.exitStatus() != QProcess::NormalExit || m_process.exitCode() != 0 || !m_stream.finito())
