@@ -105,3 +105,8 @@ CREATE VIEW NuovoQueryDef AS SELECT Piatto FROM Piatti WHERE ID <> 0 ORDER BY Pi
 DROP VIEW NuovoQueryDef
 => acts
 DROP VIEW NuovoQueryDef
+
+-- [lone-direction] a direction that stands alone is taken for a column
+SELECT a FROM T GROUP BY Desc
+=> reads
+SELECT a FROM T GROUP BY Desc ORDER BY Desc

@@ -124,9 +124,10 @@ bool followsTable(const JetTokens &tokens, int at, int end)
            tokens[at].is(JetWord::Using) || joins(tokens[at]);
 }
 
+// A direction that stands alone is the name of a column.
 JetRange withoutDirection(const JetTokens &tokens, JetRange term)
 {
-    if (!term.isEmpty() && (tokens[term.to - 1].is(JetWord::Asc) || tokens[term.to - 1].is(JetWord::Desc)))
+    if (term.to - term.from > 1 && (tokens[term.to - 1].is(JetWord::Asc) || tokens[term.to - 1].is(JetWord::Desc)))
         --term.to;
     return term;
 }
