@@ -6,12 +6,6 @@
 #include "platform/ui/AvvisoUscita.h"
 #include "ui_CreaGruppo.h"
 
-namespace {
-
-constexpr int kEscape = 27;
-
-} // namespace
-
 CreaGruppo::CreaGruppo(FormHost &host, ModNetServer &modulo)
     : Form("CreaGruppo", host), m_ui(std::make_unique<Ui::CreaGruppo>()), m_modulo(modulo)
 {

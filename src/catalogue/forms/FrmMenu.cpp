@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 const QString kInserisci = QStringLiteral("  Inserisci altro Alimento  ");
 const QString kSalva = QStringLiteral("Salva");
 

@@ -3,12 +3,6 @@
 #include "catalogue/forms/Icone.h"
 #include "ui_InserimentoKCal.h"
 
-namespace {
-
-constexpr int kEscape = 27;
-
-} // namespace
-
 InserimentoKCal::InserimentoKCal(FormHost &host, ModNetServer &modulo)
     : Form("InserimentoKCal", host), m_ui(std::make_unique<Ui::InserimentoKCal>()), m_modulo(modulo)
 {

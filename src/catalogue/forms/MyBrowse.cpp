@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 constexpr int kLogo = 32; // pixels
 
 } // namespace

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 constexpr int kLogo = 32; // pixels
 
 } // namespace

@@ -9,12 +9,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int kEscape = 27;
-
-} // namespace
-
 void SchedaRecord::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers)
 {
     if (modifiers & Qt::AltModifier) // Alt+Down opens a list, Alt+F4 closes the window

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 const QString kTitolo = QStringLiteral("Sostituisci Menu");
 
 void colourCaption(QWidget *caption, const QColor &colour)

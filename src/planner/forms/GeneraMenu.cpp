@@ -19,7 +19,6 @@ namespace {
 
 constexpr double kTwipsPerPixel = 15;
 constexpr double kFirstBarWidth = 200; // twips
-constexpr int kEscape = 27;
 
 // A text set by code is a change only where it differs, and the caret of the box being typed in stays where it is.
 void setIfDifferent(QLineEdit *box, const QString &text)

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 const QString kSoloPreferiti = QStringLiteral("Visualizza tutti i preferiti");
 const QString kTuttaLaTabella = QStringLiteral("Visualizza tutta la tabella");
 

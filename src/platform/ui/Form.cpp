@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 constexpr int kResizeRest = 80; // milliseconds without a further change of size
 
 // What stands on top for the user, so that a modal window opens over it.

@@ -52,7 +52,8 @@ protected:
     virtual void Form_Unload() {}
     // Keys come to the form before the control that has the focus gets them; Esc ends there.
     virtual void Form_KeyDown(int key, Qt::KeyboardModifiers) { (void)key; }
-    virtual void Form_KeyPress(int character) { (void)character; } // 27 for Esc
+    virtual void Form_KeyPress(int character) { (void)character; } // kEscape, no other
+    static constexpr int kEscape = 27;
     // Called from Form_KeyDown: the key has done its duty and goes on to no control.
     void swallowKey() { m_keySwallowed = true; }
     virtual void Form_DblClick() {} // on the form's ground, not on a control

@@ -29,7 +29,6 @@ static void initResources()
 
 namespace {
 
-constexpr int kEscape = 27;
 constexpr int kPannelloStato = 4; // of the background's status bar
 constexpr int kPannelloSuccessivo = 5;
 constexpr int kPannelloModifica = 2; // "F6 Modifica" of the form's own bar

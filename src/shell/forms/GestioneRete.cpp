@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 constexpr int kDataTab = 1;
 
 void wordButtons(QFileDialog &dialog)

@@ -18,7 +18,6 @@
 
 namespace {
 
-constexpr int kEscape = 27;
 
 void setSize(QLabel *label, int points, QFont::Weight weight)
 {
