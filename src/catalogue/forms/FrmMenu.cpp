@@ -193,10 +193,7 @@ void FrmMenu::setPersonCaptions()
             m_ui->TDBGrid1->setCaption(column++, caption + person.name);
         for (const auto &[index, caption] : person.captions) {
             auto *label = findChild<QLabel *>("LbCampo_" + QString::number(index));
-            QPalette palette = label->palette();
-            palette.setColor(QPalette::WindowText, person.colour);
-            label->setPalette(palette);
-            label->setForegroundRole(QPalette::WindowText); // on the card it would be that of a text box
+            Tema::colourCaption(label, person.colour);
             if (!person.name.isEmpty())
                 label->setText(caption + person.name);
         }

@@ -15,13 +15,6 @@ namespace {
 
 const QString kTitolo = QStringLiteral("Sostituisci Menu");
 
-void colourCaption(QWidget *caption, const QColor &colour)
-{
-    QPalette palette = caption->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    caption->setPalette(palette);
-}
-
 // A key that types something; the arrows go from row to row and are none.
 bool isCharacter(const QKeyEvent &key)
 {
@@ -54,9 +47,9 @@ void Sostituti::dress()
     setWindowIcon(Icone::icona("gruppo"));
     VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
     for (QLabel *label : {m_ui->LbTotale1, m_ui->Label5})
-        colourCaption(label, Tema::firstPerson());
+        Tema::colourCaption(label, Tema::firstPerson());
     for (QLabel *label : {m_ui->LbTotale2, m_ui->Label7})
-        colourCaption(label, Tema::secondPerson());
+        Tema::colourCaption(label, Tema::secondPerson());
     m_ui->Label6->hide();
     m_ui->Frame2->hide();
 }

@@ -27,14 +27,6 @@ void setIfDifferent(QLineEdit *box, const QString &text)
         box->setText(text);
 }
 
-void setCaptionColour(QLabel *label, const QColor &colour)
-{
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
-    label->setForegroundRole(QPalette::WindowText); // on a card it would be that of a text box
-}
-
 } // namespace
 
 GeneraMenu::GeneraMenu(FormHost &host, FormRegistry &registry, ModNetServer &modulo)
@@ -60,9 +52,9 @@ void GeneraMenu::dress()
         label->setFont(font);
     }
     for (QLabel *label : {m_ui->PrimaPersona, m_ui->Label3_1})
-        setCaptionColour(label, Tema::firstPerson());
+        Tema::colourCaption(label, Tema::firstPerson());
     for (QLabel *label : {m_ui->SecondaPersona, m_ui->Label3_2})
-        setCaptionColour(label, Tema::secondPerson());
+        Tema::colourCaption(label, Tema::secondPerson());
     for (QFrame *card : {m_ui->RiquadroTipi, m_ui->RiquadroPersone}) {
         card->setBackgroundRole(QPalette::Base);
         card->setAutoFillBackground(true);

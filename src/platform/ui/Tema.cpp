@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QString>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace {
 
@@ -111,6 +112,14 @@ QColor Tema::firstPerson()
 QColor Tema::secondPerson()
 {
     return current().second;
+}
+
+void Tema::colourCaption(QWidget *caption, const QColor &colour)
+{
+    QPalette palette = caption->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    caption->setPalette(palette);
+    caption->setForegroundRole(QPalette::WindowText); // on a card it would be that of a text box
 }
 
 QColor Tema::meal(const QString &meal)

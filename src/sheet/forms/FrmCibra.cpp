@@ -53,13 +53,6 @@ QColor rowColour(const Recordset &rows, int row)
     return Tema::meal(rows.valueAt(row, rows.fieldIndex("PranzoCenaSpuntino")).text());
 }
 
-void colourCaption(QWidget *caption, const QColor &colour)
-{
-    QPalette palette = caption->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    caption->setPalette(palette);
-}
-
 // Readable on a light and on a dark desktop, the grey being the same on both.
 void colourGrey(QWidget *box)
 {
@@ -117,10 +110,10 @@ void FrmCibra::dress()
     m_ui->DataCombo2->lineEdit()->setFont(m_ui->DataCombo2->font());
     for (QWidget *caption :
          std::initializer_list<QWidget *>{m_ui->Label1, m_ui->LbLabel_9, m_ui->LbLabel_11, m_ui->LbLabel_13})
-        colourCaption(caption, Tema::firstPerson());
+        Tema::colourCaption(caption, Tema::firstPerson());
     for (QWidget *caption :
          std::initializer_list<QWidget *>{m_ui->Label2, m_ui->LbLabel_10, m_ui->LbLabel_12, m_ui->LbLabel_14})
-        colourCaption(caption, Tema::secondPerson());
+        Tema::colourCaption(caption, Tema::secondPerson());
     VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
     m_ui->ImgMarvo->setIcon(Icone::icona("note"));
     for (const int grey : kCaselleGrigie)
