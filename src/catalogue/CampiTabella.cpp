@@ -4,8 +4,7 @@
 
 namespace {
 
-constexpr int kTablePicture = 32; // of the image list
-constexpr int kNameAt = 14;       // where the statement has its table's name, and the characters taken of it
+constexpr int kNameAt = 14; // where the statement has its table's name, and the characters taken of it
 constexpr int kNameLength = 20;
 
 } // namespace
@@ -84,6 +83,6 @@ MsgBoxEx TabellaNonConforme(const QString &tabella, const QString &mancanti)
                QStringLiteral("uno o pi\u00EF\u00BF\u00BD campi obligatori:\r") +
                QStringLiteral("____________________________________________\r\r\r") + mancanti;
     box.buttons = {QStringLiteral("OK")};
-    box.picture = kTablePicture;
+    box.picture = Immagine::Tabella;
     return box;
 }

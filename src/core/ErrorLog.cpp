@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int kErrorPicture = 3; // of the image list of Sfondo
-
 // A step of the logger: whatever fails in it is ignored, so that the logger can never fail itself.
 template <typename Step>
 void ignoringFailures(Step step)
@@ -62,7 +60,7 @@ void showError(ModNetServer &modulo, const Failure &Errore)
     fields.title = QStringLiteral("Errore Generico");
     fields.body = Errore.words();
     fields.buttons = {QStringLiteral("#@!? ... Errore!")};
-    fields.picture = kErrorPicture;
+    fields.picture = Immagine::Errore;
     modulo.mondo.dialoghi.Msg1(fields);
 }
 

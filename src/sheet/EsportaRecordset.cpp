@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr int kPrimoPulsante = 6;
 const QString kTesto = QStringLiteral("\\Testo.txt");
 const QString kRisultato = QStringLiteral("\\InteroRecordSet.txt");
 
@@ -15,8 +14,8 @@ MsgBoxEx questionOfFormat()
     fields.title = "Esportazione Tabella in Files Testo...";
     fields.body = "Vuoi Esportare la tabella in un formato\rTesto o in formato Excell?";
     fields.buttons = {"Testo", "Excell"};
-    fields.defaultFlag = 256;
-    fields.buttonCode = 102;
+    fields.defaultFlag = MsgBoxEx::SecondIsDefault;
+    fields.buttonCode = MsgBoxEx::TwoButtons;
     return fields;
 }
 
@@ -127,7 +126,7 @@ void MnuFileTesto(ModNetServer &modulo, const Recordset &elenco, const QString &
                                      "Nessun Record presente");
         return;
     }
-    if (modulo.mondo.dialoghi.Msg1(questionOfFormat()) == kPrimoPulsante)
+    if (modulo.mondo.dialoghi.Msg1(questionOfFormat()) == MsgBoxEx::First)
         exportToText(modulo, istruzione);
     else
         exportToSpreadsheet(modulo, istruzione);

@@ -8,11 +8,6 @@
 
 namespace {
 
-// Numbers of the image list: a question, a refusal, a note.
-constexpr int kDomanda = 23;
-constexpr int kRifiuto = 36;
-constexpr int kNota = 27;
-
 enum class Collegamento
 {
     Dsn,
@@ -28,12 +23,12 @@ Collegamento chiediCollegamento(ModNetServer &modulo)
                               "oppure la connessione Diretta al Database\n"
                               "appena selezionato?");
     box.buttons = {QStringLiteral("DSN"), QStringLiteral("Diretta"), QStringLiteral("Annulla")};
-    box.buttonCode = 103;
-    box.picture = kDomanda;
+    box.buttonCode = MsgBoxEx::ThreeButtons;
+    box.picture = Immagine::Conferma;
     switch (modulo.mondo.dialoghi.Msg1(box)) {
-    case 6:
+    case MsgBoxEx::First:
         return Collegamento::Dsn;
-    case 2:
+    case MsgBoxEx::Third:
         return Collegamento::Annullato;
     default:
         return Collegamento::Diretto;
@@ -79,7 +74,7 @@ DopoConferma registra(ModNetServer &modulo, const QString &cartella, const QStri
     scriviNetServerIni(modulo);
     if (scelto.isEmpty()) {
         avvisa(modulo, QStringLiteral("Nessuna selezione ...."),
-               QStringLiteral("Non è stato selezionato nessun Database Aziendale, Riprova..."), kRifiuto);
+               QStringLiteral("Non è stato selezionato nessun Database Aziendale, Riprova..."), Immagine::Rifiuto);
         return DopoConferma::LasciaAperto;
     }
     // An old archive cannot be used as it is; without the new one another choice is due.
@@ -94,7 +89,7 @@ DopoConferma registra(ModNetServer &modulo, const QString &cartella, const QStri
         avvisa(modulo, QStringLiteral("O.K.!!"),
                QStringLiteral("Registrazione effettuata con successo,\nDataSystem     ") + modulo.PercorsoDbSistema +
                    QStringLiteral("\nDataAziendale ") + modulo.PercorsoDbDati,
-               kNota);
+               Immagine::Programmatore);
     }
     return DopoConferma::ChiudiDialogo;
 }

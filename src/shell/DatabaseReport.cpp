@@ -7,7 +7,6 @@
 
 namespace {
 
-constexpr int kDomandaSiNo = 36; // question mark, yes and no
 const QString kReportIni = QStringLiteral("\\INI\\Report.ini");
 
 } // namespace
@@ -31,7 +30,7 @@ bool DaScegliereDatabaseReport(ModNetServer &modulo)
     const QString &path = modulo.PercorsoDbReport;
     if (path.isEmpty() || !QFileInfo(ProgramFolder::resolveAbsolute(path)).isFile())
         return true;
-    return modulo.mondo.dialoghi.MsgBox(QStringLiteral("Vuoi modificare il persorso: ") + path, kDomandaSiNo,
+    return modulo.mondo.dialoghi.MsgBox(QStringLiteral("Vuoi modificare il persorso: ") + path, MsgFlags::YesNoQuestion,
                                         QStringLiteral("Modifica Percorso MDB Report?")) == MsgAnswer::Si;
 }
 
@@ -42,6 +41,6 @@ void RegistraDatabaseReport(ModNetServer &modulo, const QString &path)
     writer.line(path);
     writer.close();
     modulo.PercorsoDbReport = path;
-    modulo.mondo.dialoghi.MsgBox(QStringLiteral("Database per le stampe registrato: \n") + path, 0,
+    modulo.mondo.dialoghi.MsgBox(QStringLiteral("Database per le stampe registrato: \n") + path, MsgFlags::Plain,
                                  QStringLiteral("OK!!"));
 }

@@ -5,8 +5,6 @@
 
 namespace {
 
-constexpr int kSoloTesto = 0; // a box without an icon
-
 // Calls `sostituto` for each dish that the text of the current row names.
 void PerOgniSostituto(ModNetServer &modulo, const Recordset &piatti, const QString &temporaneo,
                       const std::function<void(const QString &riga)> &sostituto)
@@ -30,7 +28,7 @@ void CopiaCalorie(ModNetServer &modulo)
             " WHERE (((trim(Piatti.Piatto))=Trim('" + nuovi.value("Piatto").text() +
             "')) AND ((trim(Piatti.alimento))=Trim('" + nuovi.value("alimento").text() + "')));");
     gruppo.close();
-    modulo.mondo.dialoghi.MsgBox("Fattto", kSoloTesto, {});
+    modulo.mondo.dialoghi.MsgBox("Fattto", MsgFlags::Plain, {});
 }
 
 void ElencaSostituti(ModNetServer &modulo)
@@ -74,7 +72,7 @@ void RiempiGruppi(ModNetServer &modulo, const PiattoInCorso &inCorso)
         });
     }
     gruppo.close();
-    modulo.mondo.dialoghi.MsgBox("Fatto", kSoloTesto, {});
+    modulo.mondo.dialoghi.MsgBox("Fatto", MsgFlags::Plain, {});
 }
 
 void AbbinaAlimenti(ModNetServer &modulo)

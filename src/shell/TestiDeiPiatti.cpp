@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr int kSoloTesto = 0; // a box without an icon
 const QString kSeparatore(99, u'*');
 
 void ScriviTesti(TextWriter &writer, Recordset &piatti, const QString &campo, const PiattoInCorso &inCorso)
@@ -155,7 +154,7 @@ void RapportoSenzaCorrispondenza(ModNetServer &modulo, const PiattoInCorso &inCo
     modulo.RsComune = std::make_shared<Recordset>();
     modulo.RsComune->Open("Nocorrispondenza", modulo.dati());
     ScriviFileDiScambio(modulo, *modulo.RsComune, inCorso);
-    modulo.mondo.dialoghi.MsgBox("fatto", kSoloTesto, {});
+    modulo.mondo.dialoghi.MsgBox("fatto", MsgFlags::Plain, {});
 }
 
 void EsportaTesti(ModNetServer &modulo, const PiattoInCorso &inCorso)
@@ -181,5 +180,5 @@ void ImportaTesti(ModNetServer &modulo)
             AggiungiPrima(alimenti, riga, modulo.KcalPrimaPersona);
     }
     gruppo.close();
-    modulo.mondo.dialoghi.MsgBox("terminato", kSoloTesto, {});
+    modulo.mondo.dialoghi.MsgBox("terminato", MsgFlags::Plain, {});
 }

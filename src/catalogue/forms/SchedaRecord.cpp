@@ -205,14 +205,12 @@ void SchedaRecord::rileggi()
 
 int SchedaRecord::messaggio(const QString &titolo, const QString &corpo, const QStringList &bottoni, int immagine) const
 {
-    constexpr int kSecondIsDefault = 256;
-    constexpr int kTwoButtons = 102;
     MsgBoxEx box;
     box.title = titolo;
     box.body = corpo;
     box.buttons = bottoni;
-    box.defaultFlag = bottoni.size() == 2 ? kSecondIsDefault : 0;
-    box.buttonCode = bottoni.size() == 2 ? kTwoButtons : 0;
+    box.defaultFlag = bottoni.size() == 2 ? MsgBoxEx::SecondIsDefault : 0;
+    box.buttonCode = bottoni.size() == 2 ? MsgBoxEx::TwoButtons : 0;
     box.picture = immagine;
     return m_modulo.mondo.dialoghi.Msg1(box);
 }

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int kFirstButton = 6;
-constexpr int kSecondButton = 7;
 constexpr int kLivelloCancella = 6; // the level that may really delete
 
 } // namespace
@@ -137,7 +135,7 @@ void SchedaRecord::MnuAnnulla_Click()
         const int answer =
             messaggio("Annullo Movimento", "Confermi l'annullameto delle modifiche apportate \ral record corrente?",
                       {"OK", "ANNULLA"}, Immagine::Annullo);
-        if (answer != kSecondButton)
+        if (answer != MsgBoxEx::Second)
             annulla();
     });
 }
@@ -171,7 +169,7 @@ bool SchedaRecord::ConfermaCancellazione()
 {
     return messaggio("Cancellazione Record ...",
                      "Questo Record potrebbe essere \rrelazionato ad altri movimenti.\rSei sicuro di voler cancellare?",
-                     {"CANCELLA", "ANNULLA"}, Immagine::Conferma) == kFirstButton;
+                     {"CANCELLA", "ANNULLA"}, Immagine::Conferma) == MsgBoxEx::First;
 }
 
 void SchedaRecord::cancellaConfermato()

@@ -10,16 +10,3 @@ constexpr int Cancella = 5;
 inline constexpr std::array Inserimento{6, 8};
 inline constexpr std::array Vista{1, 2, 3, 4, 5, 7, 9};
 } // namespace Pannelli
-
-// Pictures of the message boxes, in the image list.
-namespace Immagine {
-constexpr int Annullo = 5;
-constexpr int Data = 7;
-constexpr int Stampante = 8;
-constexpr int Arresa = 10;
-constexpr int LogVuoto = 18;
-constexpr int Caratteri = 19;
-constexpr int Conferma = 23;
-constexpr int Programmatore = 27;
-constexpr int Rifiuto = 36;
-} // namespace Immagine

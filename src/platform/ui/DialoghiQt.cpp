@@ -20,18 +20,25 @@ struct Choice
     int answer;
 };
 
+// The parts of a message box's flags.
+constexpr int kButtonBits = 15;
+constexpr int kOkCancel = 1;
+constexpr int kYesNoCancel = 3;
+constexpr int kYesNo = 4;
+constexpr int kIconBits = 0x70;
+
 std::vector<Choice> choicesOf(int flags)
 {
     const Choice ok{QStringLiteral("OK"), int(MsgAnswer::Ok)};
     const Choice annulla{QStringLiteral("Annulla"), int(MsgAnswer::Annulla)};
     const Choice si{QStringLiteral("Sì"), int(MsgAnswer::Si)};
     const Choice no{QStringLiteral("No"), int(MsgAnswer::No)};
-    switch (flags & 15) {
-    case 1:
+    switch (flags & kButtonBits) {
+    case kOkCancel:
         return {ok, annulla};
-    case 3:
+    case kYesNoCancel:
         return {si, no, annulla};
-    case 4:
+    case kYesNo:
         return {si, no};
     default:
         return {ok};
@@ -40,14 +47,14 @@ std::vector<Choice> choicesOf(int flags)
 
 QMessageBox::Icon iconOf(int flags)
 {
-    switch (flags & 0x70) {
-    case 16:
+    switch (flags & kIconBits) {
+    case MsgFlags::Critical:
         return QMessageBox::Critical;
-    case 32:
+    case MsgFlags::Question:
         return QMessageBox::Question;
-    case 48:
+    case MsgFlags::Exclamation:
         return QMessageBox::Warning;
-    case 64:
+    case MsgFlags::Information:
         return QMessageBox::Information;
     default:
         return QMessageBox::NoIcon;
@@ -161,11 +168,11 @@ int DialoghiQt::Msg1(const MsgBoxEx &fields)
     box.title = fields.title;
     box.text = fields.body;
     for (const QString &caption : fields.buttons) {
-        const int answers[] = {6, 7, 2};
+        const int answers[] = {MsgBoxEx::First, MsgBoxEx::Second, MsgBoxEx::Third};
         box.choices.push_back({caption, answers[std::min<std::size_t>(box.choices.size(), 2)]});
     }
     if (box.choices.empty())
-        box.choices.push_back({QStringLiteral("OK"), 6});
+        box.choices.push_back({QStringLiteral("OK"), MsgBoxEx::First});
     box.defaultChoice = defaultOf(fields.defaultFlag, box.choices.size());
     box.escapeAnswer = box.choices.back().answer;
     box.picture = QApplication::windowIcon().pixmap(48);

@@ -9,7 +9,6 @@ namespace {
 const QString kVista = QStringLiteral("V");
 const QString kInserimento = QStringLiteral("I");
 const QString kModifica = QStringLiteral("M");
-constexpr int kFiguraRifiuto = 36; // of the image list
 
 std::vector<Value> fieldsOf(const Recordset &rows)
 {
@@ -53,7 +52,7 @@ bool FrmCibra::maySetAboutChanging()
         messaggio("Operazione NON consentita",
                   "Il contenuto del Record è gestito dalla Procedura\r"
                   "Non è possibile apportare alcuna Modifica / Cancellazione",
-                  {"OK!"}, kFiguraRifiuto);
+                  {"OK!"}, Immagine::Rifiuto);
         return false;
     }
     if (Datprimaryrs->RecordCount() == 0) {

@@ -18,7 +18,6 @@
 
 namespace {
 
-
 void setSize(QLabel *label, int points, QFont::Weight weight)
 {
     QFont font = label->font();
