@@ -7,29 +7,7 @@
 
 namespace {
 
-constexpr int kStringType = 8; // of any text
 constexpr int kDayLength = 10; // dd/mm/yyyy
-
-// The value type that a kind of column stands for; 0 where it stands for none.
-int valueTypeOf(QChar kind)
-{
-    switch (kind.unicode()) {
-    case 'B':
-        return 17;
-    case 'I':
-        return 2;
-    case 'L':
-        return 3;
-    case 'S':
-        return 4;
-    case 'D':
-        return 5;
-    case 'C':
-        return 6;
-    default:
-        return 0;
-    }
-}
 
 // A day, with a time behind it or without.
 bool isDate(const QString &text)
@@ -57,6 +35,6 @@ Aggiustamento DecidiAggiustamento(const ColonnaTabella &colonna, const QString &
     const QChar kind = colonna.tipo.at(1);
     if (kind == u'T' || kind == u'M' || !SoloNumeri(testo))
         return ofLength(testo, colonna.dimensione);
-    const bool passes = kind == u'Z' || valueTypeOf(kind) == kStringType;
-    return passes ? Aggiustamento::Passa : Aggiustamento::FermaEccessivo;
+    // Of a column of unknown type it is not known what would be too much.
+    return kind == u'Z' ? Aggiustamento::Passa : Aggiustamento::FermaEccessivo;
 }
