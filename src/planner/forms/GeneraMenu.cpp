@@ -10,8 +10,13 @@
 #include "planner/VisteMenu.h"
 #include "platform/text/Dates.h"
 #include "platform/text/Numbers.h"
+#include "platform/ui/ControlArray.h"
+#include "platform/ui/FormRegistry.h"
 #include "platform/ui/Tema.h"
 #include "ui_GeneraMenu.h"
+
+#include <QLineEdit>
+#include <QRadioButton>
 
 #include <algorithm>
 
@@ -229,6 +234,7 @@ void GeneraMenu::Command2_Click()
 {
     if (!CancellaBlocco(m_modulo, m_ui->Text3->text(), m_ui->Text4->text()))
         return;
+    // A half-typed day fails here, before the view moves.
     static_cast<void>(CDate(m_ui->Text1->text()));
     static_cast<void>(CDate(m_ui->Text2->text()));
     const std::shared_ptr<Recordset> all = ApriTuttiIMenu(m_modulo);

@@ -6,15 +6,11 @@
 #include "planner/InsiemiPiatti.h"
 #include "planner/Periodo.h"
 #include "planner/SceltaMenu.h"
-#include "platform/ui/ControlArray.h"
 #include "platform/ui/Form.h"
-#include "platform/ui/FormRegistry.h"
-
-#include <QLineEdit>
-#include <QRadioButton>
 
 #include <vector>
 
+class FormRegistry;
 class QCheckBox;
 
 namespace Ui {
