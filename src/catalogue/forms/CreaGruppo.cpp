@@ -25,12 +25,12 @@ CreaGruppo::~CreaGruppo() = default;
 
 void CreaGruppo::ComboTipo_Click()
 {
-    ::ComboTipo_Click(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
+    ElencaPerTipo(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
 }
 
 void CreaGruppo::ComboCategoria_Click()
 {
-    ::ComboCategoria_Click(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
+    ElencaPerCategoria(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
 }
 
 void CreaGruppo::Command3_Click()

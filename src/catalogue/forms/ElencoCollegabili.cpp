@@ -30,16 +30,15 @@ void RiempiClassi(QComboBox &ComboTipo, QComboBox &ComboCategoria)
     setItems(ComboCategoria, CategorieNuovoPiatto());
 }
 
-void ComboTipo_Click(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
-                     Connection &dati)
+void ElencaPerTipo(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2, Connection &dati)
 {
     const QString kind = ComboTipo.currentText();
     if (!kind.trimmed().isEmpty())
         rebuild(DataCombo2, IstruzioneCollegabiliDaTipo(kind, ComboCategoria.currentText()), dati);
 }
 
-void ComboCategoria_Click(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
-                          Connection &dati)
+void ElencaPerCategoria(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
+                        Connection &dati)
 {
     rebuild(DataCombo2, IstruzioneCollegabiliDaCategoria(ComboTipo.currentText(), ComboCategoria.currentText()), dati);
 }

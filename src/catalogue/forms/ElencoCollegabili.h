@@ -10,7 +10,7 @@ class QComboBox;
 void RiempiClassi(QComboBox &ComboTipo, QComboBox &ComboCategoria);
 // Rebuild the list of dishes, whose text becomes the first of them; without any the text stays. The first does nothing
 // while no kind is chosen.
-void ComboTipo_Click(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
-                     Connection &dati);
-void ComboCategoria_Click(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
-                          Connection &dati);
+void ElencaPerTipo(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
+                   Connection &dati);
+void ElencaPerCategoria(const QComboBox &ComboTipo, const QComboBox &ComboCategoria, DataCombo &DataCombo2,
+                        Connection &dati);

@@ -424,12 +424,12 @@ void FrmMenu::Text1_LostFocus(Qt::FocusReason reason)
 
 void FrmMenu::ComboTipo_Click()
 {
-    ::ComboTipo_Click(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
+    ElencaPerTipo(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
 }
 
 void FrmMenu::ComboCategoria_Click()
 {
-    ::ComboCategoria_Click(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
+    ElencaPerCategoria(*m_ui->ComboTipo, *m_ui->ComboCategoria, *m_ui->DataCombo2, m_modulo.dati());
 }
 
 void FrmMenu::Form_KeyPress(int character)
