@@ -319,9 +319,9 @@ void FrmCibra::showTotals(const TotaliGiorno &totali)
 // The labels name what their command will act on.
 void FrmCibra::Datsecondaryrs_MoveComplete()
 {
-    m_ui->Label4->setText("  Cancella Gruppo " + testo(1));
-    m_ui->Label6->setText("  Sostituisci Alimento " + testo(3));
-    m_ui->Label7->setText("Sostituisci Piatto " + testo(2));
+    m_ui->Label4->setText("  Cancella Gruppo " + testo(Casella::Pasto));
+    m_ui->Label6->setText("  Sostituisci Alimento " + testo(Casella::Alimento));
+    m_ui->Label7->setText("Sostituisci Piatto " + testo(Casella::Piatto));
 }
 
 void FrmCibra::DataCombo2_Click()

@@ -59,6 +59,17 @@ protected:
     void MnuHelp_Click() override;
 
 private:
+    // The boxes TxtFields of the row on show, by their index.
+    struct Casella
+    {
+        static constexpr int Giorno = 0;
+        static constexpr int Pasto = 1;
+        static constexpr int Piatto = 2;
+        static constexpr int Alimento = 3;
+        static constexpr int KC100gr = 5;
+        static constexpr int Id = 11;
+    };
+
     // The day
     void DataCombo2_Click();  // a day was picked from the list: it may balance itself
     void DataCombo2_Change(); // the text changed otherwise

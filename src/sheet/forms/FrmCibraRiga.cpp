@@ -26,8 +26,6 @@ struct CasellePersona
 };
 constexpr CasellePersona kPrima{8, 10};
 constexpr CasellePersona kSeconda{9, 4};
-constexpr int kKC100gr = 5;
-constexpr int kID = 11;
 
 } // namespace
 
@@ -38,7 +36,7 @@ QString FrmCibra::testo(int index) const
 
 PostoNellaScheda FrmCibra::posto() const
 {
-    return {testo(0), testo(1), testo(2)};
+    return {testo(Casella::Giorno), testo(Casella::Pasto), testo(Casella::Piatto)};
 }
 
 bool FrmCibra::hasRow() const
@@ -88,14 +86,14 @@ void FrmCibra::recalculate(int index)
     QLineEdit *const totalBox = campi().at(boxes.totale)->box();
     try {
         if (index == boxes.quantita)
-            total = TotaleRiga(testo(kKC100gr), testo(index));
+            total = TotaleRiga(testo(Casella::KC100gr), testo(index));
         if (total)
             totalBox->setText(*total);
         writeRow();
     } catch (const Failure &failure) {
         // The row keeps the values that it had, and the boxes show them. A key that cannot be stored must not stay on
         // show either: it would name another row to whoever deletes.
-        if (failure.number() == FailureNumber::TypeMismatch || index == kID)
+        if (failure.number() == FailureNumber::TypeMismatch || index == Casella::Id)
             Datsecondaryrs->CancelUpdate();
         throw;
     }
@@ -131,7 +129,7 @@ void FrmCibra::Label3_DblClick()
     if (!leaveTypedBoxes())
         return;
     const PostoNellaScheda here = posto();
-    if (CancellaRecord(modulo(), here, testo(3), testo(11)))
+    if (CancellaRecord(modulo(), here, testo(Casella::Alimento), testo(Casella::Id)))
         CercaSchedaPranzo(here.giorno);
 }
 
@@ -164,7 +162,8 @@ void FrmCibra::Command3_Click()
     if (!NominaUnAlimento(m_ui->Combo2->currentText()))
         return;
     needRow();
-    const std::optional<AlimentoSostituto> food = LeggiSostituto(modulo(), m_ui->Combo2->currentText(), testo(2));
+    const std::optional<AlimentoSostituto> food =
+        LeggiSostituto(modulo(), m_ui->Combo2->currentText(), testo(Casella::Piatto));
     m_ui->Frame2->hide();
     if (food) {
         const std::pair<const char *, const Value &> fields[] = {
