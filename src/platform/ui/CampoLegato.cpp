@@ -43,28 +43,31 @@ CampoLegato::CampoLegato(QWidget *control, const QString &dataField)
 
 CampoLegato::~CampoLegato()
 {
-    follow(false);
+    unfollow();
 }
 
 void CampoLegato::setDataSource(std::shared_ptr<Recordset> recordset)
 {
     if (recordset != m_recordset) {
-        follow(false);
+        unfollow();
         m_recordset = std::move(recordset);
-        follow(true);
+        follow();
     }
     show();
 }
 
-void CampoLegato::follow(bool on)
+void CampoLegato::unfollow()
 {
     if (!m_recordset)
         return;
-    if (!on) {
-        m_recordset->removeEditor(*this);
-        m_recordset->disconnect(this);
+    m_recordset->removeEditor(*this);
+    m_recordset->disconnect(this);
+}
+
+void CampoLegato::follow()
+{
+    if (!m_recordset)
         return;
-    }
     m_recordset->addEditor(*this);
     connect(m_recordset.get(), &Recordset::opened, this, &CampoLegato::show);
     connect(m_recordset.get(), &Recordset::moveComplete, this, &CampoLegato::show);

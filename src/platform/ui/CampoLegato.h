@@ -71,7 +71,8 @@ private:
     void dropTyped() override { show(); }
     int row() const; // on show, from 0; -1 none
     void setChanged(bool changed);
-    void follow(bool on);
+    void follow();
+    void unfollow();
 
     QWidget *m_control;
     std::shared_ptr<Recordset> m_recordset;
