@@ -3,7 +3,7 @@
 -- Texts compare without regard to case. The program puts its own NOCASE in place of the built-in one, which also folds
 -- accented letters; so no index stands on a column of names, where another tool would order them otherwise.
 -- Days are kept as yyyy-mm-dd in DATE columns and as dd/mm/yyyy in SchedaPranzo.dataInserimento. Yes/no is 1 and 0.
--- Numbers are REAL, so that KC100gr/100*quantita never divides whole numbers.
+-- Numbers are REAL, so that KC100gr/100*quantita never divides whole numbers. A VARIANT takes numbers and texts.
 
 -- One row a dish: its class, its calories for the two persons, whether it is a favourite.
 CREATE TABLE Sostituisci (
@@ -168,7 +168,7 @@ CREATE TABLE SostituisciMaster (
 CREATE TABLE Alimenti (
     Piatto      VARCHAR(100) COLLATE NOCASE,
     alimento    VARCHAR(100) COLLATE NOCASE,
-    quantita    VARCHAR(50) COLLATE NOCASE, -- as the text has it, "(80 gr.)"
+    quantita    VARIANT(50) COLLATE NOCASE, -- a number, or as the dish text has it, "(80 gr.)"
     KcNominale  REAL,
     quantita2   VARCHAR(50) COLLATE NOCASE,
     KcNominale2 REAL
@@ -178,8 +178,8 @@ CREATE TABLE Alimenti (
 CREATE TABLE alimenti2 (
     Piatto      VARCHAR(100) COLLATE NOCASE,
     Alimento    VARCHAR(100) COLLATE NOCASE,
-    quantita1   VARCHAR(50) COLLATE NOCASE,
+    quantita1   VARIANT(50) COLLATE NOCASE,
     Kcnominale1 REAL,
-    quantita2   VARCHAR(50) COLLATE NOCASE,
+    quantita2   VARIANT(50) COLLATE NOCASE,
     Kcnominale2 REAL
 );

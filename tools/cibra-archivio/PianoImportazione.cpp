@@ -143,7 +143,8 @@ private:
             }
             if (same(target->nome, ours.chiave))
                 next.chiave = int(next.colonne.size());
-            next.colonne += ColonnaPrevista{i, target->nome, tipoArchivio(target->tipo), true, 0};
+            const TipoArchivio type = target->variante ? tipoArchivio(column.tipo) : tipoArchivio(target->tipo);
+            next.colonne += ColonnaPrevista{i, target->nome, type, true, 0};
             if (target->tipo == ColumnType::Text && column.tipo == TipoMdb::Testo && widthOf(column) > target->ampiezza)
                 m_plan.script = conColonnaPiuLarga(m_plan.script, ours.nome, target->nome, widthOf(column));
         }

@@ -27,7 +27,8 @@ TabellaSchema tableOf(const QString &name, const QString &body)
     table.nome = name;
     for (auto found = line.globalMatch(body); found.hasNext();) {
         const QRegularExpressionMatch column = found.next();
-        table.colonne += ColonnaSchema{column.captured(1), typeOf(column.captured(2)), column.captured(3).toInt()};
+        table.colonne += ColonnaSchema{column.captured(1), typeOf(column.captured(2)), column.captured(3).toInt(),
+                                       column.captured(2) == u"VARIANT"};
         if (column.captured(4).contains(QStringLiteral("PRIMARY KEY")))
             table.chiave = column.captured(1);
     }
@@ -70,7 +71,8 @@ SchemaArchivio leggiSchema(const QString &script)
 QString conColonnaPiuLarga(const QString &script, const QString &table, const QString &column, int characters)
 {
     const QRegularExpression place(
-        QStringLiteral("^CREATE TABLE %1 \\(\n(?:(?!^\\);).)*?^\\s*%2\\s+VARCHAR\\(\\K\\d+").arg(table, column),
+        QStringLiteral("^CREATE TABLE %1 \\(\n(?:(?!^\\);).)*?^\\s*%2\\s+(?:VARCHAR|VARIANT)\\(\\K\\d+")
+            .arg(table, column),
         Option::MultilineOption | Option::DotMatchesEverythingOption);
     return QString(script).replace(place, QString::number(characters));
 }

@@ -11,7 +11,8 @@ struct ColonnaSchema
 {
     QString nome;
     ColumnType tipo = ColumnType::Text;
-    int ampiezza = 0; // characters of a Text
+    int ampiezza = 0;      // characters of a Text
+    bool variante = false; // a Text column that takes numbers too, and keeps them as such
 };
 
 struct TabellaSchema
