@@ -102,6 +102,19 @@ TEST_F(DialoghiQtTest, TheExtendedBoxAnswersSixSevenAndTwo)
     EXPECT_EQ(dialoghi.Msg1({"t", "uno\rdue", {"a", "b", "c"}, 256, 103, 0}), 2);
 }
 
+TEST_F(DialoghiQtTest, TheExtendedBoxShowsAQuestionMarkWhereItAsksForAConfirmation)
+{
+    const std::pair<int, QMessageBox::Icon> cases[] = {{Immagine::Conferma, QMessageBox::Question},
+                                                       {Immagine::Errore, QMessageBox::NoIcon}};
+    for (const auto &[picture, icon] : cases) {
+        whenShown<QMessageBox>([expected = icon](QMessageBox &box) {
+            EXPECT_EQ(box.icon(), expected);
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        dialoghi.Msg1({"t", "b", {"a"}, 0, 0, picture});
+    }
+}
+
 TEST_F(DialoghiQtTest, AnInputBoxGivesItsTextAndNothingWhenCancelled)
 {
     whenShown<QInputDialog>([](QInputDialog &box) {

@@ -40,7 +40,8 @@ constexpr int Rifiuto = 36;
 } // namespace Immagine
 
 // The fields of the extended message box, in the order in which a call fills them. The window has as many buttons as
-// there are captions, and shows the program's icon: `buttonCode` and `picture` are for whoever records the boxes.
+// there are captions, and shows a question mark for Immagine::Conferma, else the program's icon: `buttonCode` and the
+// other pictures are for whoever records the boxes.
 struct MsgBoxEx
 {
     static constexpr int SecondIsDefault = 256;

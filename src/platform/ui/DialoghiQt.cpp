@@ -175,7 +175,10 @@ int DialoghiQt::Msg1(const MsgBoxEx &fields)
         box.choices.push_back({QStringLiteral("OK"), MsgBoxEx::First});
     box.defaultChoice = defaultOf(fields.defaultFlag, box.choices.size());
     box.escapeAnswer = box.choices.back().answer;
-    box.picture = QApplication::windowIcon().pixmap(48);
+    if (fields.picture == Immagine::Conferma)
+        box.icon = QMessageBox::Question;
+    else
+        box.picture = QApplication::windowIcon().pixmap(48);
     return show(m_host, box);
 }
 
