@@ -1,6 +1,7 @@
 #include "core/CopieDiSicurezza.h"
 
 #include "core/ErrorLog.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/BackUp.h"
 
 #include <QDir>
@@ -73,8 +74,8 @@ class Parziale
 public:
     explicit Parziale(const QString &path) : m_path(path)
     {
-        for (const char *tail : {"", "-wal", "-shm"})
-            togli(m_path + QLatin1String(tail));
+        for (const QString &left : QStringList(path) + companionFiles(path))
+            togli(left);
     }
     ~Parziale() { QFile::remove(m_path); }
     Parziale(const Parziale &) = delete;
@@ -109,7 +110,7 @@ bool eCopiaDi(const QFileInfo &copia, const QFileInfo &archivio)
 // What is still in the journal stands in no copy so far.
 bool giaCopiato(const QString &archivio)
 {
-    if (QFileInfo(archivio + QStringLiteral("-wal")).size() > 0)
+    if (QFileInfo(archivio + kWriteAheadLog).size() > 0)
         return false;
     const QFileInfo file(archivio);
     const QStringList copies = CopieDi(archivio);

@@ -1,6 +1,7 @@
 #include "shell/OffriImportazione.h"
 
 #include "platform/Failure.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/text/TextFile.h"
 
 #include <QCoreApplication>
@@ -161,7 +162,7 @@ QString daMostrare(const QDir &folder, const QString &name, const QString &repor
 bool EArchivioJet(const QString &path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.read(32).mid(4).startsWith("Standard Jet DB");
+    return file.open(QIODevice::ReadOnly) && isJetFile(file.read(kArchiveSign));
 }
 
 QString RapportoInBreve(const QString &rapporto)

@@ -2,6 +2,7 @@
 
 #include "faults/UnluckyDisk.h"
 #include "platform/store/ArchiveFile.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/ConnectionPrivate.h"
 #include "platform/store/Recordset.h"
 
@@ -61,8 +62,8 @@ QString faultsOf(const QString &path, const QString &password)
 
 void putArchive(const QString &from, const QString &to)
 {
-    for (const char *tail : {"", "-wal", "-shm", "-journal"})
-        QFile::remove(to + QLatin1String(tail));
+    for (const QString &left : QStringList(to) + companionFiles(to))
+        QFile::remove(left);
     if (!QFile::copy(from, to))
         throw std::runtime_error("the archive cannot be put in its place");
 }

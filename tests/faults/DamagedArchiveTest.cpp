@@ -3,6 +3,7 @@
 #include "CreaArchivio.h"
 #include "faults/Contents.h"
 #include "platform/Failure.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/Recordset.h"
 #include "ProteggiArchivio.h"
 #include "support/Printers.h"
@@ -54,8 +55,8 @@ protected:
     }
     void put(const QByteArray &bytes)
     {
-        for (const char *tail : {"", "-wal", "-shm"})
-            QFile::remove(path + QLatin1String(tail));
+        for (const QString &left : QStringList(path) + companionFiles(path))
+            QFile::remove(left);
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         ASSERT_EQ(file.write(bytes), bytes.size());

@@ -1,6 +1,7 @@
 #include "FileProvvisorio.h"
 
 #include "platform/Failure.h"
+#include "platform/store/ArchiveSigns.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -22,10 +23,7 @@ QString nomeLibero(const QString &path)
 // The file itself and those that the engine puts beside it.
 QStringList tuttiDi(const QString &path)
 {
-    QStringList files;
-    for (const char *tail : {"", "-wal", "-shm", "-journal"})
-        files += path + QLatin1String(tail);
-    return files;
+    return QStringList(path) + companionFiles(path);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "CambiaPassword.h"
 #include "core/CopieDiSicurezza.h"
 #include "platform/Failure.h"
+#include "platform/store/ArchiveSigns.h"
 
 #include <QFile>
 
@@ -25,7 +26,7 @@ QStringList copieInChiaro(const QString &path)
     QStringList plain;
     for (const QString &copy : CopieDi(path)) {
         QFile file(copy);
-        if (file.open(QIODevice::ReadOnly) && file.read(6) == "SQLite")
+        if (file.open(QIODevice::ReadOnly) && isPlainArchive(file.read(kArchiveSign)))
             plain += copy;
     }
     return plain;

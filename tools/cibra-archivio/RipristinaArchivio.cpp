@@ -5,6 +5,7 @@
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/ArchiveLock.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/BackUp.h"
 
 #include <QFile>
@@ -15,13 +16,6 @@ namespace {
 Failure rifiuto(const QString &words)
 {
     return Failure(FailureNumber::PathAccess, words);
-}
-
-// The engine's files beside an archive. One that stayed would be taken for a journal of the archive put back.
-const QStringList &codeDelGiornale()
-{
-    static const QStringList tails{QStringLiteral("-wal"), QStringLiteral("-journal"), QStringLiteral("-shm")};
-    return tails;
 }
 
 void apriCopia(Connection &copy, const QString &path, const QString &password)
@@ -60,17 +54,16 @@ QString tieniComE(const QString &path, const QDateTime &when)
 {
     const QString kept = NomeDiCopia(path, when) + QStringLiteral(".prima");
     tieni(path, kept);
-    for (const QString &tail : codeDelGiornale())
-        if (QFileInfo(path + tail).size() > 0)
-            tieni(path + tail, kept + tail);
+    for (const QLatin1String &ending : kCompanionEndings)
+        if (QFileInfo(path + ending).size() > 0)
+            tieni(path + ending, kept + ending);
     return kept;
 }
 
 void scarta(const QString &kept)
 {
-    for (const QString &tail : codeDelGiornale())
-        QFile::remove(kept + tail);
-    QFile::remove(kept);
+    for (const QString &file : QStringList(kept) + companionFiles(kept))
+        QFile::remove(file);
 }
 
 // The present archive as one more safety copy; empty where it does not open, or is damaged.
@@ -98,9 +91,9 @@ QString tieniQuelloDiAdesso(const QString &path, const QString &password, const 
 
 void togliGiornale(const QString &path)
 {
-    for (const QString &tail : codeDelGiornale())
-        if (QFileInfo::exists(path + tail) && !QFile::remove(path + tail))
-            throw rifiuto(QStringLiteral("Il file \"%1\" non si può togliere").arg(path + tail));
+    for (const QString &file : companionFiles(path))
+        if (QFileInfo::exists(file) && !QFile::remove(file))
+            throw rifiuto(QStringLiteral("Il file \"%1\" non si può togliere").arg(file));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "TestataMdb.h"
 
+#include "platform/store/ArchiveSigns.h"
 #include "platform/text/CodePage.h"
 
 #include <QtEndian>
@@ -94,11 +95,6 @@ QString passwordJet4(const QByteArray &head)
 
 } // namespace
 
-bool testataDiJet(const QByteArray &start)
-{
-    return start.mid(kName, 15) == "Standard Jet DB";
-}
-
 TestataMdb leggiTestata(const QByteArray &start, qint64 size)
 {
     TestataMdb head;
@@ -106,7 +102,7 @@ TestataMdb leggiTestata(const QByteArray &start, qint64 size)
         head.esito = TestataMdb::Esito::Recente;
         return head;
     }
-    if (!testataDiJet(start))
+    if (!isJetFile(start))
         return head;
     if (start.size() < kTestataMdb || size < kTestataMdb) {
         head.esito = TestataMdb::Esito::Corta;

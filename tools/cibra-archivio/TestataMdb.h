@@ -24,5 +24,3 @@ constexpr qsizetype kTestataMdb = 256;
 
 // `start` is the beginning of the file, `size` the length of the whole. Never throws.
 TestataMdb leggiTestata(const QByteArray &start, qint64 size);
-// Whether a file that begins so is a Jet file, of whatever version and however damaged.
-bool testataDiJet(const QByteArray &start);

@@ -5,9 +5,9 @@
 #include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
-#include "TestataMdb.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -151,11 +151,11 @@ QString estraneo(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         return {};
     const QByteArray start = file.read(kInizio);
-    if (testataDiJet(start))
+    if (isJetFile(start))
         return QStringLiteral("Il file è un archivio .mdb, non un archivio di questo programma");
     if (start.isEmpty())
         return QStringLiteral("Il file è vuoto, non è un archivio");
-    if (start.startsWith("SQLite format 3") || (pareCifrato(start) && file.size() % kInizio == 0))
+    if (isPlainArchive(start) || (pareCifrato(start) && file.size() % kInizio == 0))
         return {};
     if (QByteArrayView(start).count('\0') == start.size())
         return QStringLiteral("Il file comincia con una pagina di zeri: se era un archivio, il suo inizio è perduto");

@@ -1,5 +1,6 @@
 #include "platform/store/OpenArchive.h"
 
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/EngineFailure.h"
 #include "platform/store/JetFunctions.h"
 #include "platform/store/Statement.h"
@@ -15,9 +16,6 @@
 
 namespace {
 
-constexpr QByteArrayView kPlainHeader("SQLite format 3");
-constexpr QByteArrayView kJetName("Standard Jet DB"); // of an old .mdb file, which no password opens
-constexpr qsizetype kJetNameAt = 4;
 constexpr qint64 kEncryptedPage = 1024;
 constexpr int kLockWait = 5000; // milliseconds for another program to give its lock back
 
@@ -142,13 +140,13 @@ public:
         if (!info.isFile())
             return refused(Failure::usual(FailureNumber::FileNotFound, m_path));
         m_size = info.size();
-        m_journalWasEmpty = nothingInJournal();
-        const std::optional<QByteArray> head = readHead(m_path, kJetNameAt + kJetName.size());
+        m_journalWasEmpty = !hasJournal(m_path);
+        const std::optional<QByteArray> head = readHead(m_path, kArchiveSign);
         if (!head)
             return refused(
                 Failure(FailureNumber::PathAccess, QStringLiteral("Il file non può essere letto: ") + m_path));
-        m_plain = head->startsWith(kPlainHeader);
-        if (head->sliced(kJetNameAt) == kJetName)
+        m_plain = isPlainArchive(*head);
+        if (isJetFile(*head)) // which no password opens
             return refused(Failure(FailureNumber::Engine,
                                    QStringLiteral("Il file è un archivio .mdb, da importare prima di usarlo")));
         if (m_size == 0)
@@ -173,8 +171,6 @@ private:
         return kind == SQLITE_CANTOPEN || kind == SQLITE_READONLY || kind == SQLITE_FULL ||
                m_lastCode == SQLITE_IOERR_SHMSIZE || m_lastCode == SQLITE_IOERR_SHMOPEN;
     }
-    bool isEmpty(const QString &suffix) const { return QFileInfo(m_path + suffix).size() == 0; }
-    bool nothingInJournal() const { return isEmpty(QStringLiteral("-wal")) && isEmpty(QStringLiteral("-journal")); }
 
     // The engine takes the missing rest of a last page for zeros. With something in the journal it may mend the file.
     bool isCutShort(sqlite3 *handle) const

@@ -1,5 +1,6 @@
 #include "platform/ui/ElencoFile.h"
 
+#include "platform/store/ArchiveSigns.h"
 #include "platform/ui/Disegno.h"
 
 #include <QDir>
@@ -9,7 +10,7 @@ namespace {
 // What the engine keeps beside an archive while it is open; whoever took it for the archive would lose rows.
 bool isCompanion(const QDir &folder, const QString &file)
 {
-    for (const QLatin1String end : {QLatin1String("-wal"), QLatin1String("-shm"), QLatin1String("-journal")})
+    for (const QLatin1String &end : kCompanionEndings)
         if (file.endsWith(end) && folder.exists(file.chopped(end.size())))
             return true;
     return false;
