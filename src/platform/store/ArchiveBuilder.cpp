@@ -1,38 +1,11 @@
 #include "platform/store/ArchiveBuilder.h"
 
-#include "platform/store/EngineFailure.h"
+#include "platform/store/EngineHandle.h"
 #include "platform/store/JetFunctions.h"
 #include "platform/store/NewFile.h"
 #include "platform/store/Statement.h"
 
-#include <QFile>
-
 namespace {
-
-struct Closer
-{
-    void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
-};
-using Handle = std::unique_ptr<sqlite3, Closer>;
-
-void check(sqlite3 *handle, int rc, const QString &told = {})
-{
-    if (rc != SQLITE_OK)
-        throw engineFailure(handle, rc, told);
-}
-
-Handle openHandle(const QString &path, const QString &password)
-{
-    sqlite3 *raw = nullptr;
-    const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &raw,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-    Handle handle(raw);
-    check(raw, rc);
-    const QByteArray key = password.toUtf8();
-    if (!key.isEmpty())
-        check(raw, sqlite3_key(raw, key.constData(), int(key.size())));
-    return handle;
-}
 
 // Binds one value; the engine takes copies of texts and bytes.
 struct Binder
@@ -70,16 +43,12 @@ QByteArray insertion(const QString &table, const QStringList &columns)
 
 struct ArchiveBuilder::Private
 {
-    Private(const QString &path, const QString &password) : file(path), handle(openHandle(path, password)) {}
+    Private(const QString &path, const QString &password) : file(path), handle(openEngine(path, password.toUtf8())) {}
 
-    void run(const QByteArray &script) const
-    {
-        check(handle.get(), sqlite3_exec(handle.get(), script.constData(), nullptr, nullptr, nullptr),
-              QString::fromUtf8(script));
-    }
+    void run(const QByteArray &script) const { runScript(handle.get(), script); }
 
     NewFile file; // outlives the handle
-    Handle handle;
+    EngineHandle handle;
     Statement insert;
 };
 
@@ -107,7 +76,7 @@ void ArchiveBuilder::addRow(const std::vector<StoredValue> &values)
     Statement &insert = m_private->insert;
     const StatementRun run(insert);
     for (std::size_t i = 0; i < values.size(); ++i)
-        check(m_private->handle.get(), std::visit(Binder{insert.handle(), int(i) + 1}, values[i]));
+        checkEngine(m_private->handle.get(), std::visit(Binder{insert.handle(), int(i) + 1}, values[i]));
     insert.step();
 }
 

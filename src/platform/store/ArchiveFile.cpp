@@ -1,7 +1,7 @@
 #include "platform/store/ArchiveFile.h"
 
 #include "platform/store/ArchiveBuilder.h"
-#include "platform/store/EngineFailure.h"
+#include "platform/store/EngineHandle.h"
 #include "platform/store/NewFile.h"
 #include "platform/store/OpenArchive.h"
 #include "platform/store/Statement.h"
@@ -11,17 +11,6 @@
 #include <memory>
 
 namespace {
-
-void check(sqlite3 *handle, int rc, const QString &told = {})
-{
-    if (rc != SQLITE_OK)
-        throw engineFailure(handle, rc, told);
-}
-
-void run(sqlite3 *handle, const QByteArray &script)
-{
-    check(handle, sqlite3_exec(handle, script.constData(), nullptr, nullptr, nullptr), QString::fromUtf8(script));
-}
 
 // The original, in a state that another handle may read whole.
 std::shared_ptr<Database> openOriginal(const QString &path, const QString &password)
@@ -41,8 +30,8 @@ void exportTo(sqlite3 *original, const QString &path, const QString &password)
     attach.bind(2, QByteArrayView(key));
     attach.step();
     attach.reset();
-    run(original, "SELECT sqlcipher_export('copia')");
-    run(original, "DETACH DATABASE copia");
+    runScript(original, "SELECT sqlcipher_export('copia')");
+    runScript(original, "DETACH DATABASE copia");
 }
 
 } // namespace
@@ -81,7 +70,7 @@ QStringList integrityCheck(const QString &path, const QString &password)
 
 void rebuildIndexes(const QString &path, const QString &password)
 {
-    run(openOriginal(path, password)->handle(), "REINDEX");
+    runScript(openOriginal(path, password)->handle(), "REINDEX");
 }
 
 QMap<QString, qint64> rowCounts(const QString &path, const QString &password)

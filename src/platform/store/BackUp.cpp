@@ -2,35 +2,22 @@
 
 #include "platform/store/ConnectionPrivate.h"
 #include "platform/store/EngineFailure.h"
+#include "platform/store/EngineHandle.h"
 #include "platform/store/JetFunctions.h"
 #include "platform/store/NewFile.h"
 #include "platform/store/Statement.h"
 
 #include <QFile>
 
-#include <memory>
-
 namespace {
 
 constexpr int kAllPages = -1;
-
-struct Closer
-{
-    void operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
-};
-using Handle = std::unique_ptr<sqlite3, Closer>;
 
 Failure copyFailure(sqlite3 *copy, int rc)
 {
     if ((rc & 0xff) == SQLITE_FULL)
         return Failure(FailureNumber::Engine, QStringLiteral("Il disco è pieno"));
     return engineFailure(copy, rc);
-}
-
-void check(sqlite3 *copy, int rc)
-{
-    if (rc != SQLITE_OK)
-        throw copyFailure(copy, rc);
 }
 
 // The program that starts or expands does not stand still for a copy.
@@ -52,18 +39,12 @@ private:
     int m_before = 0;
 };
 
-Handle openCopy(const QString &path, const QByteArray &key)
+EngineHandle openCopy(const QString &path, const QByteArray &key)
 {
-    sqlite3 *raw = nullptr;
-    const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &raw,
-                                   SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
-    Handle copy(raw);
-    check(raw, rc);
-    if (!key.isEmpty())
-        check(raw, sqlite3_key(raw, key.constData(), int(key.size())));
-    teachEngine(raw);
+    EngineHandle copy = openEngine(path, key);
+    teachEngine(copy.get());
     // Half a copy is thrown away, so that there is nothing to roll back.
-    check(raw, sqlite3_exec(raw, "PRAGMA journal_mode=OFF", nullptr, nullptr, nullptr));
+    runScript(copy.get(), "PRAGMA journal_mode=OFF");
     return copy;
 }
 
@@ -95,7 +76,7 @@ void backUp(Connection &from, const QString &to)
     NewFile file(to);
     QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner); // nobody else reads it so far
     {
-        const Handle copy = openCopy(to, original.key());
+        const EngineHandle copy = openCopy(to, original.key());
         copyPages(original.handle(), copy.get());
         checkPages(copy.get());
     }

@@ -11,11 +11,6 @@ bool definesTables(const QString &statement)
 
 } // namespace
 
-void Database::Closer::operator()(sqlite3 *handle) const
-{
-    sqlite3_close_v2(handle);
-}
-
 Database::Database(sqlite3 *handle, const QByteArray &key) : m_handle(handle), m_key(key), m_group(handle) {}
 
 Database::~Database()

@@ -1,6 +1,7 @@
 // An open archive on the engine's side: its handle, the statements kept ready, and what is known of its tables.
 #pragma once
 
+#include "platform/store/EngineHandle.h"
 #include "platform/store/ResultShape.h"
 #include "platform/store/RowWriter.h"
 #include "platform/store/StatementCache.h"
@@ -36,13 +37,9 @@ public:
     RowWriter &writer(const std::shared_ptr<const TableInfo> &table);
 
 private:
-    struct Closer
-    {
-        void operator()(sqlite3 *handle) const;
-    };
     void forgetTables();
 
-    std::unique_ptr<sqlite3, Closer> m_handle;
+    EngineHandle m_handle;
     QByteArray m_key;
     WriteGroup m_group;
     StatementCache m_statements;
