@@ -2,7 +2,9 @@
 
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/Connection.h"
+#include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
@@ -73,16 +75,29 @@ TEST_F(ProteggiArchivioTest, AnEmptyPasswordIsNone)
 TEST_F(ProteggiArchivioTest, AnArchiveThatAnotherProgramHasOpenIsLeftAlone)
 {
     creaArchivioNuovo(path);
-    Connection other;
-    ASSERT_TRUE(other.Open(path));
-    other.Execute("INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
-    EXPECT_EQ(refusalWith("segreta"), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
-    other.Execute("INSERT INTO Clienti (Nominativo) VALUES ('Ondira')");
-    other.Close();
+    {
+        const OtherProgram other(path, {}, "INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
+        EXPECT_EQ(refusalWith("segreta"), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
+    }
+    Connection archive;
+    ASSERT_TRUE(archive.Open(path));
+    EXPECT_EQ(rowsOf(archive, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
+    archive.Close();
+    EXPECT_EQ(files(), QStringList("famiglia.db"));
+}
 
-    ASSERT_TRUE(other.Open(path));
-    EXPECT_EQ(rowsOf(other, "SELECT Nominativo FROM Clienti"), QStringList({"Tesmo", "Ondira"}));
-    other.Close();
+TEST_F(ProteggiArchivioTest, WhatAKilledProgramLeftInTheJournalGoesAlong)
+{
+    creaArchivioNuovo(path);
+    {
+        const OtherProgram killed(path, {}, "INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
+    }
+    ASSERT_TRUE(hasJournal(path));
+    EXPECT_EQ(refusalWith("segreta"), "(protetto)");
+    Connection archive;
+    ASSERT_TRUE(archive.Open(path, "segreta"));
+    EXPECT_EQ(rowsOf(archive, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
+    archive.Close();
     EXPECT_EQ(files(), QStringList("famiglia.db"));
 }
 

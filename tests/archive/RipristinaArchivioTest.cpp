@@ -5,6 +5,7 @@
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "ProteggiArchivio.h"
+#include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
@@ -15,48 +16,9 @@
 #include <QDir>
 #include <QFile>
 
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace {
 
 const QDateTime kNow(QDate(2025, 3, 2), QTime(10, 20, 30));
-
-// Another process that has an archive open, for as long as this lives.
-class OtherProgram
-{
-public:
-    explicit OtherProgram(const QString &path, const QString &password = {})
-    {
-        int ready[2];
-        if (pipe(ready) != 0)
-            return;
-        m_child = fork();
-        if (m_child == 0) {
-            Connection open;
-            const char opened = open.Open(path, password) && countOf(open, "Clienti") == 1 ? '1' : '0';
-            if (write(ready[1], &opened, 1) == 1)
-                pause();
-            _exit(0);
-        }
-        char opened = '0';
-        EXPECT_EQ(read(ready[0], &opened, 1), 1);
-        EXPECT_EQ(opened, '1');
-        close(ready[0]);
-        close(ready[1]);
-    }
-    ~OtherProgram()
-    {
-        kill(m_child, SIGKILL);
-        waitpid(m_child, nullptr, 0);
-    }
-    OtherProgram(const OtherProgram &) = delete;
-    OtherProgram &operator=(const OtherProgram &) = delete;
-
-private:
-    pid_t m_child = -1;
-};
 
 class RipristinaArchivioTest : public ::testing::Test
 {

@@ -3,6 +3,7 @@
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
 #include "ProteggiArchivio.h"
+#include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
@@ -75,13 +76,13 @@ TEST_F(SproteggiArchivioTest, AnArchiveThatAnotherProgramHasOpenIsLeftAlone)
 {
     creaArchivioNuovo(path);
     proteggiArchivio(path, "segreta");
-    Connection other;
-    ASSERT_TRUE(other.Open(path, "segreta"));
-    other.Execute("INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
-    EXPECT_EQ(refusalWith("segreta"), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
-    other.Close();
-    ASSERT_TRUE(other.Open(path, "segreta"));
-    EXPECT_EQ(rowsOf(other, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
+    {
+        const OtherProgram other(path, "segreta", "INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
+        EXPECT_EQ(refusalWith("segreta"), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
+    }
+    Connection archive;
+    ASSERT_TRUE(archive.Open(path, "segreta"));
+    EXPECT_EQ(rowsOf(archive, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
 }
 
 TEST_F(SproteggiArchivioTest, AMissingFileAndADamagedOneAreRefused)

@@ -4,6 +4,7 @@
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/Connection.h"
+#include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
@@ -200,9 +201,14 @@ TEST_F(RiparaArchivioTest, TheIndexIsMadeAnewAndNoRowIsLost)
 
 TEST_F(RiparaArchivioTest, AnArchiveInUseIsLeftAlone)
 {
-    folder.write("prova.db-shm", "");
+    const OtherProgram other(path);
     const QByteArray before = folder.read("prova.db");
-    EXPECT_THROW(riparaArchivio(path), Failure);
+    try {
+        riparaArchivio(path);
+        ADD_FAILURE() << "it was replaced";
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.words(), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
+    }
     EXPECT_TRUE(folder.read("prova.db") == before);
 }
 

@@ -1,13 +1,11 @@
 #include "CambiaPassword.h"
 
-#include "ArchivioInUso.h"
-#include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
+#include "SostituisciArchivio.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
@@ -81,7 +79,5 @@ void cambiaPassword(const QString &path, const QString &vecchia, const QString &
         copyEncrypted(path, copy.path(), nuova, vecchia);
         controllaCopia(original, copy.path(), nuova);
     }
-    rifiutaInUso(path);
-    QFile::setPermissions(copy.path(), QFileInfo(path).permissions());
-    copy.sostituisciOriginale();
+    sostituisciArchivio(copy, path);
 }

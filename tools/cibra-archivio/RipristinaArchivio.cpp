@@ -1,12 +1,11 @@
 #include "RipristinaArchivio.h"
 
 #include "core/CopieDiSicurezza.h"
-#include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
-#include "platform/store/ArchiveLock.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/store/BackUp.h"
+#include "SostituisciArchivio.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -35,12 +34,6 @@ void controlla(const QString &path, const QString &password, const QString &told
 {
     if (const QStringList faults = integrityCheck(path, password); !faults.isEmpty())
         throw rifiuto(QStringLiteral("La copia \"%1\" è danneggiata: %2").arg(told, faults.first()));
-}
-
-void rifiutaAperto(const QString &path)
-{
-    if (isLockedByAnother(path))
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" è aperto da un altro programma").arg(path));
 }
 
 void tieni(const QString &from, const QString &to)
@@ -117,9 +110,9 @@ QString ripristinaArchivio(const QString &copia, const QString &told, const QStr
 
     QString kept;
     if (isThere) {
-        rifiutaAperto(path);
+        rifiutaInUso(path);
         kept = tieniQuelloDiAdesso(path, password, quando);
-        rifiutaAperto(path);
+        rifiutaInUso(path);
     }
     togliGiornale(path);
     restored.sostituisciOriginale();

@@ -1,13 +1,12 @@
 #include "VerificaArchivio.h"
 
-#include "ArchivioInUso.h"
 #include "CreaArchivio.h"
-#include "FileProvvisorio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
+#include "SostituisciArchivio.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -237,7 +236,5 @@ void riparaArchivio(const QString &told, const QString &password)
         throw Failure(FailureNumber::Engine, after.guasti.first());
     if (rowCounts(path, password) != rowCounts(copy.path(), password))
         throw Failure(FailureNumber::Engine, QStringLiteral("La copia riparata non ha tutte le righe"));
-    rifiutaInUso(path);
-    QFile::setPermissions(copy.path(), QFileInfo(path).permissions());
-    copy.sostituisciOriginale();
+    sostituisciArchivio(copy, path);
 }
