@@ -1,6 +1,6 @@
 #include "pages/Alimenti.h"
 
-#include "pages/Modello.h"
+#include "pages/FileModello.h"
 
 #include <utility>
 

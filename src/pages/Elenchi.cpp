@@ -1,7 +1,7 @@
 #include "pages/Elenchi.h"
 
 #include "pages/Alimenti.h"
-#include "pages/Modello.h"
+#include "pages/FileModello.h"
 #include "platform/Failure.h"
 
 #include <algorithm>

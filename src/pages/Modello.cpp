@@ -2,10 +2,11 @@
 
 #include "core/Indirizzi.h"
 #include "pages/Elenchi.h"
+#include "pages/FileModello.h"
 #include "platform/Failure.h"
 #include "platform/text/CodePage.h"
 
-#include <QFile>
+#include <QHash>
 
 namespace {
 
@@ -96,14 +97,4 @@ void Stesura::elenco(const QByteArray &name)
 QByteArray TestoPagina(Pagina pagina)
 {
     return Stesura(pagina).testo();
-}
-
-QByteArray TestoModello(const char *file)
-{
-    QFile resource(QStringLiteral(":/pagina/") + file);
-    if (!resource.open(QIODevice::ReadOnly))
-        throw Failure::usual(FailureNumber::FileNotFound, resource.fileName());
-    QByteArray text = toWindows1252(QString::fromUtf8(resource.readAll()));
-    text.chop(1);
-    return text;
 }

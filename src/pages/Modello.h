@@ -18,18 +18,3 @@ enum class Pagina
 
 // Whole, line ends included: each line ends in one blank (the short page: two) and CR LF.
 QByteArray TestoPagina(Pagina pagina);
-
-// One of those files, its last line without an end. Throws Failure(FileNotFound) where there is none.
-QByteArray TestoModello(const char *file);
-
-// Calls `work` with each line of such a file, a QByteArrayView.
-template <typename Work>
-void perOgniRiga(const QByteArray &text, Work work)
-{
-    QByteArrayView rest(text);
-    for (qsizetype end = rest.indexOf('\n'); end >= 0; end = rest.indexOf('\n')) {
-        work(rest.first(end));
-        rest = rest.sliced(end + 1);
-    }
-    work(rest);
-}

@@ -15,6 +15,7 @@
 #pragma once
 
 #include "platform/store/Connection.h"
+#include "platform/store/FieldInfo.h"
 #include "platform/store/Value.h"
 
 #include <QObject>
@@ -22,13 +23,6 @@
 
 #include <memory>
 #include <vector>
-
-struct FieldInfo
-{
-    QString name; // spelled as the table declares it
-    ColumnType type = ColumnType::Text;
-    int definedSize = 0; // characters of a text column, 0 where none is declared
-};
 
 // Something that shows the current row and keeps what the user types until the row is written: a bound box.
 class RowEditor

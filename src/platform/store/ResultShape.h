@@ -1,10 +1,12 @@
 // What the columns of a select are: names, types, and where a change of them goes.
 #pragma once
 
+#include "platform/store/FieldInfo.h"
 #include "platform/store/JetTranslator.h"
-#include "platform/store/Recordset.h"
 #include "platform/store/Statement.h"
 #include "platform/store/TableInfo.h"
+
+#include <QString>
 
 #include <functional>
 #include <memory>
