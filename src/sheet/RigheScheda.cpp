@@ -1,5 +1,7 @@
 #include "sheet/RigheScheda.h"
 
+#include "platform/text/Blanks.h"
+
 #include <array>
 
 namespace {
@@ -7,17 +9,6 @@ namespace {
 // The columns that a row of the sheet takes over as they are, in the order in which they are written.
 constexpr std::array kColonneCopiate{"KC100gr",   "quantita",    "Kcnominale", "totale1",
                                      "quantita2", "Kcnominale2", "totale2"};
-
-QString withoutBlanks(const QString &text)
-{
-    qsizetype from = 0;
-    qsizetype to = text.size();
-    while (from < to && text[from] == u' ')
-        ++from;
-    while (to > from && text[to - 1] == u' ')
-        --to;
-    return text.mid(from, to - from);
-}
 
 bool confirms(ModNetServer &modulo, const QString &text, const QString &title)
 {

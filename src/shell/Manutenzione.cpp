@@ -1,5 +1,6 @@
 #include "shell/Manutenzione.h"
 
+#include "platform/text/Blanks.h"
 #include "platform/text/Numbers.h"
 #include "shell/RigheDelMemo.h"
 
@@ -62,7 +63,7 @@ void RiempiGruppi(ModNetServer &modulo, const PiattoInCorso &inCorso)
         const Value Piatto = piatti.value("Piatto");
         inCorso(Piatto.text());
         PerOgniSostituto(modulo, piatti, "TEMP", [&](const QString &riga) {
-            const QString sostituto = SenzaBlanchi(riga);
+            const QString sostituto = withoutBlanks(riga);
             if (sostituto.isEmpty())
                 return;
             gruppi.AddNew();

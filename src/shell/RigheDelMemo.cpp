@@ -16,17 +16,6 @@ void LeggiRigheDelMemo(ModNetServer &modulo, const QString &temporaneo, const QS
     }
 }
 
-QString SenzaBlanchi(const QString &testo)
-{
-    qsizetype from = 0;
-    qsizetype to = testo.size();
-    while (from < to && testo[from] == u' ')
-        ++from;
-    while (to > from && testo[to - 1] == u' ')
-        --to;
-    return testo.mid(from, to - from);
-}
-
 bool RigaDiAlimento(const QString &riga)
 {
     return riga.contains(u'-');

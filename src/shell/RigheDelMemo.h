@@ -9,7 +9,5 @@
 // through RigaLetta.
 void LeggiRigheDelMemo(ModNetServer &modulo, const QString &temporaneo, const QString &memo,
                        const std::function<void(const QString &riga)> &riga);
-// Without the blanks at both ends.
-QString SenzaBlanchi(const QString &testo);
 // Whether a line names a food with its portion.
 bool RigaDiAlimento(const QString &riga);

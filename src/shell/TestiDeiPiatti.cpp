@@ -1,4 +1,5 @@
 // The commands of Manutenzione.h that write and read the file of exchange.
+#include "platform/text/Blanks.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextFile.h"
 #include "shell/Manutenzione.h"
@@ -57,9 +58,9 @@ public:
     {
         ++m_numero;
         riga.replace(u'\'', u' ');
-        if (SenzaBlanchi(riga) == kSeparatore) // an editor may leave blanks behind
+        if (withoutBlanks(riga) == kSeparatore) // an editor may leave blanks behind
             m_seconda = true;
-        else if (SenzaBlanchi(riga).isEmpty())
+        else if (withoutBlanks(riga).isEmpty())
             leggiVuota();
         else if (RigaDiAlimento(riga))
             leggiAlimento(riga);
@@ -117,7 +118,7 @@ std::vector<RigaAlimento> LeggiFileDiScambio(ModNetServer &modulo)
 void ControllaTraguardi(const ModNetServer &modulo)
 {
     for (const QString &Kcal : {modulo.KcalPrimaPersona, modulo.KcalSecondaPersona}) {
-        if (SenzaBlanchi(Kcal).isEmpty())
+        if (withoutBlanks(Kcal).isEmpty())
             throw Failure(FailureNumber::TypeMismatch,
                           "Mancano le Kcal giornaliere delle due persone: inserisci prima l'anagrafica");
         static_cast<void>(NumeroDaTesto(Kcal));
@@ -138,8 +139,8 @@ void AggiornaSeconda(ModNetServer &modulo, const RigaAlimento &riga)
 {
     const QString KcNominale2 = NumeroPerIstruzione(NumeroDaTesto(modulo.KcalSecondaPersona));
     modulo.dati().Execute("UPDATE Alimenti SET Alimenti.quantita2 = '" + riga.quantita + "', Alimenti.KcNominale2 = " +
-                          KcNominale2 + " WHERE (((trim(Alimenti.Piatto))='" + SenzaBlanchi(riga.Piatto) +
-                          "') AND ((trim(Alimenti.alimento))='" + SenzaBlanchi(riga.alimento) + "'));");
+                          KcNominale2 + " WHERE (((trim(Alimenti.Piatto))='" + withoutBlanks(riga.Piatto) +
+                          "') AND ((trim(Alimenti.alimento))='" + withoutBlanks(riga.alimento) + "'));");
 }
 
 } // namespace
