@@ -1,7 +1,7 @@
 #include "catalogue/Composizione.h"
 
+#include "core/Marcatore.h"
 #include "platform/text/Numbers.h"
-#include "platform/text/TextFile.h"
 
 namespace {
 
@@ -148,17 +148,10 @@ bool CancellaPiatto(ModNetServer &modulo, Recordset &righe, const QString &piatt
 
 bool ConfermaInserimento(const ModNetServer &modulo)
 {
-    return modulo.mondo.folder.fileExists(kMarker);
+    return Marcatore(modulo.mondo.folder, kMarker).presente();
 }
 
 void SalvaConfermaInserimento(const ModNetServer &modulo, bool attiva)
 {
-    const ProgramFolder &folder = modulo.mondo.folder;
-    if (attiva) {
-        TextWriter marker(folder.resolve(kMarker));
-        marker.line({});
-        marker.close();
-    } else if (folder.fileExists(kMarker)) {
-        folder.deleteFile(kMarker);
-    }
+    Marcatore(modulo.mondo.folder, kMarker).metti(attiva);
 }

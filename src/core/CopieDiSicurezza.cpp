@@ -1,6 +1,7 @@
 #include "core/CopieDiSicurezza.h"
 
 #include "core/ErrorLog.h"
+#include "core/Marcatore.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/store/BackUp.h"
 
@@ -202,7 +203,8 @@ QString FaiCopia(Connection &archivio, const QDateTime &quando)
 
 void CopiaDiSicurezza(ModNetServer &modulo)
 {
-    if (!modulo.ConnessioneDati || !modulo.ConnessioneDati->isOpen() || modulo.mondo.folder.fileExists(kMarcatore))
+    if (!modulo.ConnessioneDati || !modulo.ConnessioneDati->isOpen() ||
+        Marcatore(modulo.mondo.folder, kMarcatore).presente())
         return;
     try {
         copiaERuota(modulo);

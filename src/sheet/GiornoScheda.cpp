@@ -1,6 +1,6 @@
 #include "sheet/GiornoScheda.h"
 
-#include "platform/text/TextFile.h"
+#include "core/Marcatore.h"
 
 namespace {
 
@@ -44,17 +44,10 @@ TotaliGiorno Totali(ModNetServer &modulo, const QString &data)
 
 bool AggiustaAutomaticamente(const ModNetServer &modulo)
 {
-    return modulo.mondo.folder.fileExists(kMarker);
+    return Marcatore(modulo.mondo.folder, kMarker).presente();
 }
 
 void SalvaAggiusta(const ModNetServer &modulo, bool attivo)
 {
-    const ProgramFolder &folder = modulo.mondo.folder;
-    if (attivo) {
-        TextWriter marker(folder.resolve(kMarker));
-        marker.line({});
-        marker.close();
-    } else if (folder.fileExists(kMarker)) {
-        folder.deleteFile(kMarker);
-    }
+    Marcatore(modulo.mondo.folder, kMarker).metti(attivo);
 }

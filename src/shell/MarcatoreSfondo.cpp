@@ -1,6 +1,6 @@
 #include "shell/MarcatoreSfondo.h"
 
-#include "platform/text/TextFile.h"
+#include "core/Marcatore.h"
 
 namespace {
 const QString kMarcatore = QStringLiteral("\\Sfondo");
@@ -8,17 +8,15 @@ const QString kMarcatore = QStringLiteral("\\Sfondo");
 
 bool SfondoVisibile(const ProgramFolder &folder)
 {
-    return folder.fileExists(kMarcatore);
+    return Marcatore(folder, kMarcatore).presente();
 }
 
 void SegnaSfondo(const ProgramFolder &folder)
 {
-    TextWriter marker(folder.resolve(kMarcatore));
-    marker.line(QString());
-    marker.close();
+    Marcatore(folder, kMarcatore).metti(true);
 }
 
 void TogliSegnoSfondo(const ProgramFolder &folder)
 {
-    folder.deleteFile(kMarcatore);
+    Marcatore(folder, kMarcatore).metti(false);
 }
