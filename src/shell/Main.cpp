@@ -48,8 +48,6 @@ void preparaCartelle(ModNetServer &modulo, SchermateDiAvvio &schermate)
     const ProgramFolder &folder = modulo.mondo.folder;
     vaiNellaCartella(folder);
     AssicuraCartellaIni(modulo);
-    if (!folder.folderExists(QStringLiteral("\\ini")))
-        folder.makeFolder(QStringLiteral("\\INI"));
     avanzaBarra(schermate);
     assicuraDocumenti(folder);
     avanzaBarra(schermate);
@@ -61,7 +59,7 @@ void apriDatabase(ModNetServer &modulo, SchermateDiAvvio &schermate)
     modulo.TestoAttesa2 = QStringLiteral("Attendere prego ....");
     schermate.scriviAttesa(modulo.TestoAttesa1, modulo.TestoAttesa2);
     avanzaBarra(schermate);
-    if (!modulo.mondo.folder.fileExists(QStringLiteral("\\INI\\GestioneRete.ini")))
+    if (!modulo.mondo.folder.fileExists(kGestioneRete))
         modulo.schermate.mostraGestioneRete();
     LeggiPercorsiDb(modulo);
     modulo.ConnessioneDsn = false;
