@@ -8,9 +8,6 @@
 
 namespace {
 
-const QString kLocations = QStringLiteral("\\INI\\GestioneRete.INI");
-const QString kPasswordQuestion = QStringLiteral("Inserisci la password per accedere al database");
-
 void clearLocations(ModNetServer &modulo)
 {
     modulo.PercorsoDbSistema.clear();
@@ -28,7 +25,7 @@ QString folderOf(const QString &path, const QString &name)
 
 void readLocations(ModNetServer &modulo)
 {
-    TextReader reader(modulo.mondo.folder.resolve(kLocations));
+    TextReader reader(modulo.mondo.folder.resolve(kGestioneRete));
     for (int number = 1; !reader.atEnd(); ++number) {
         modulo.RigaLetta = reader.line();
         if (number == 2)
@@ -56,7 +53,7 @@ bool findArchives(ModNetServer &modulo)
 {
     clearLocations(modulo);
     bool hasSystem = false;
-    if (modulo.mondo.folder.fileExists(kLocations)) {
+    if (modulo.mondo.folder.fileExists(kGestioneRete)) {
         readLocations(modulo);
         // The empty line that the dialog writes stands for no system archive, and is as good as one.
         hasSystem = modulo.PercorsoDbSistema.isEmpty() || archiveExists(modulo, modulo.PercorsoDbSistema);
@@ -99,7 +96,7 @@ void showPath(ModNetServer &modulo, const QString &Percorso)
 void openWithPassword(ModNetServer &modulo, const QString &path, const OpenResult &refused)
 {
     OpenResult result = refused;
-    modulo.RigaLetta = modulo.mondo.dialoghi.InputBox(kPasswordQuestion, kPasswordQuestion, true);
+    modulo.RigaLetta = modulo.mondo.dialoghi.InputBox(kDomandaPassword, kDomandaPassword, true);
     if (!modulo.RigaLetta.isEmpty())
         result = openNew(modulo.ConnessioneDati, path, modulo.RigaLetta);
     modulo.RigaLetta.clear(); // it is asked for at each start and kept nowhere
@@ -112,10 +109,10 @@ void openWithPassword(ModNetServer &modulo, const QString &path, const OpenResul
 
 void deleteLocations(const ProgramFolder &folder)
 {
-    if (!folder.fileExists(kLocations))
+    if (!folder.fileExists(kGestioneRete))
         return;
     try {
-        folder.deleteFile(kLocations);
+        folder.deleteFile(kGestioneRete);
     } catch (const Failure &) {
         return; // the dialog writes it anew all the same
     }
@@ -144,7 +141,7 @@ QString PercorsoNativo(const ModNetServer &modulo, const QString &percorso)
 void LeggiPercorsiDb(ModNetServer &modulo)
 {
     while (!findArchives(modulo)) {
-        if (!modulo.mondo.folder.fileExists(kLocations))
+        if (!modulo.mondo.folder.fileExists(kGestioneRete))
             sayGoodbye(modulo);
     }
 }
@@ -218,7 +215,7 @@ void ScriviGestioneRete(const ProgramFolder &programma, const QString &sistema, 
                         const QString &file)
 {
     const QString rule(53, u'#');
-    TextWriter writer(programma.resolve(kLocations));
+    TextWriter writer(programma.resolve(kGestioneRete));
     writer.line(QStringLiteral("[Gestione database]"));
     writer.line(sistema);
     writer.line(QStringLiteral("[Gestione database Aziendale]"));

@@ -3,6 +3,11 @@
 
 #include "core/ModNetServer.h"
 
+// The file, in the program folder.
+inline const QString kGestioneRete = QStringLiteral("\\INI\\GestioneRete.INI");
+// What the user is asked for an archive with a password: prompt and title.
+inline const QString kDomandaPassword = QStringLiteral("Inserisci la password per accedere al database");
+
 // Reads GestioneRete.INI into the four location globals, showing the dialog until a data archive is found or the user
 // gives up; then it says so and ends the program.
 void LeggiPercorsiDb(ModNetServer &modulo);

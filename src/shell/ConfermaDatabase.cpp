@@ -48,9 +48,8 @@ void avvisa(ModNetServer &modulo, const QString &title, const QString &body, int
 void dimenticaPercorsi(ModNetServer &modulo)
 {
     AssicuraCartellaIni(modulo);
-    const QString told = QStringLiteral("\\INI\\GestioneRete.INI");
-    if (modulo.mondo.folder.fileExists(told))
-        modulo.mondo.folder.deleteFile(told);
+    if (modulo.mondo.folder.fileExists(kGestioneRete))
+        modulo.mondo.folder.deleteFile(kGestioneRete);
 }
 
 void avvisaNessunaScelta(ModNetServer &modulo)

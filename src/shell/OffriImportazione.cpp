@@ -1,5 +1,6 @@
 #include "shell/OffriImportazione.h"
 
+#include "core/Locations.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/text/TextFile.h"
@@ -16,7 +17,6 @@
 namespace {
 
 const QString kTitle = QStringLiteral("Importazione archivio");
-const QString kPasswordQuestion = QStringLiteral("Inserisci la password per accedere al database");
 constexpr int kDone = 0;
 constexpr int kPasswordAsked = 3; // what the tool ends with where the password lacks or is wrong
 constexpr int kMostLines = 22;    // of a report, on a screen of 720 points
@@ -29,19 +29,6 @@ struct Esito
     int status = 1;
     QString rapporto; // what was read and written
     QString motivo;   // why it failed
-};
-
-// The busy pointer for as long as it lives.
-class Clessidra
-{
-public:
-    explicit Clessidra(Schermo &schermo) : m_schermo(schermo) { m_schermo.setMousePointer(MousePointer::Hourglass); }
-    ~Clessidra() { m_schermo.setMousePointer(MousePointer::Default); }
-    Clessidra(const Clessidra &) = delete;
-    Clessidra &operator=(const Clessidra &) = delete;
-
-private:
-    Schermo &m_schermo;
 };
 
 // A name with this ending after that of `file`, or with a number where it is taken.
@@ -87,7 +74,8 @@ Esito lascia(QProcess &tool)
 
 Esito importa(ModNetServer &modulo, const QString &from, const QString &to, const QString &password)
 {
-    const Clessidra busy(modulo.mondo.schermo);
+    modulo.mondo.schermo.setMousePointer(MousePointer::Hourglass);
+    const PuntatoreLibero afterwards(modulo.mondo.schermo);
     QProcess tool;
     tool.start(strumento(), {QStringLiteral("importa"), from, to});
     if (!tool.waitForStarted())
@@ -119,7 +107,7 @@ Esito importaConPassword(ModNetServer &modulo, const QString &from, const QStrin
     const Esito first = importa(modulo, from, to, {});
     if (first.status != kPasswordAsked)
         return first;
-    const QString password = modulo.mondo.dialoghi.InputBox(kPasswordQuestion, kPasswordQuestion, true);
+    const QString password = modulo.mondo.dialoghi.InputBox(kDomandaPassword, kDomandaPassword, true);
     return password.isEmpty() ? first : importa(modulo, from, to, password);
 }
 

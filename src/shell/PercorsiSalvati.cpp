@@ -22,10 +22,9 @@ PercorsiSalvati LeggiPercorsiSalvati(ModNetServer &modulo)
 {
     AssicuraCartellaIni(modulo);
     const ProgramFolder &folder = modulo.mondo.folder;
-    const QString told = QStringLiteral("\\INI\\GestioneRete.INI");
-    if (!folder.fileExists(told))
+    if (!folder.fileExists(kGestioneRete))
         return {};
-    TextReader reader(folder.resolve(told));
+    TextReader reader(folder.resolve(kGestioneRete));
     QStringList lines;
     while (!reader.atEnd())
         lines << reader.line();

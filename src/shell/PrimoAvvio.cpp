@@ -1,5 +1,7 @@
 #include "shell/PrimoAvvio.h"
 
+#include "core/Locations.h"
+
 #include <QProcess>
 
 namespace {
@@ -20,7 +22,7 @@ QString prepara(const ProgramFolder &folder, const QString &strumento)
 
 void OffriEsempio(const ProgramFolder &folder, Dialoghi &dialoghi, const QString &strumento)
 {
-    if (folder.fileExists(QStringLiteral("\\INI\\GestioneRete.INI")))
+    if (folder.fileExists(kGestioneRete))
         return;
     const MsgAnswer answer = dialoghi.MsgBox(
         QStringLiteral("Non c'è ancora un archivio.\n\nVuoi cominciare con quello di esempio, che ha già "

@@ -2,6 +2,7 @@
 
 #include "ChiediPassword.h"
 #include "core/Household.h"
+#include "core/Locations.h"
 #include "shell/Manutenzione.h"
 
 #include <QDir>
@@ -69,7 +70,7 @@ ProgramFolder cartellaDelProgramma(const QString &archivio)
     const QString own = QFileInfo(archivio).absolutePath();
     QDir folder(own);
     do {
-        if (ProgramFolder candidate(folder.path()); candidate.fileExists("\\INI\\GestioneRete.INI"))
+        if (ProgramFolder candidate(folder.path()); candidate.fileExists(kGestioneRete))
             return candidate;
     } while (folder.cdUp());
     return ProgramFolder(own);

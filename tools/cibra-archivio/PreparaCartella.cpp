@@ -17,7 +17,7 @@ void preparaCartella(const QString &told, QDate day)
     const ProgramFolder folder(path);
     if (!folder.fileExists("NetServer.Mdb"))
         creaArchivioSistema(folder.resolve("NetServer.Mdb"));
-    if (folder.fileExists("INI\\GestioneRete.INI"))
+    if (folder.fileExists(kGestioneRete))
         return;
     AssicuraCartellaIni(folder);
     if (!folder.folderExists("Archivio"))

@@ -92,9 +92,11 @@ protected:
     void Form_DblClick() override;
 
     void proceduraAvvio(); // the start routine: column check, .mnu file; its failure is shown and logged
-    void tappa();          // one more "." on panel 4 of the background
-    void diritti();        // what the user's level offers
-    void apriScheda();     // RsScheda
+    void pannelloStato(const QString &testo); // panel 4 of the background
+    void tappa();                             // one more "." on it
+    QString inEsecuzione() const;             // what it says once the form is there
+    void diritti();                           // what the user's level offers
+    void apriScheda();                        // RsScheda
     // Binds every TxtFields to its field, and limits what may be typed into it to what the column holds.
     void legaCampi(const std::shared_ptr<Recordset> &recordset);
     void SettaLenTxt();
@@ -187,8 +189,6 @@ private:
     void mostraGriglia();
     void rileggi();
     void passiAvvio();
-    void pannelloStato(const QString &testo);
-    QString inEsecuzione() const;
 
     ModNetServer &m_modulo;
     std::map<int, CasellaLegata *> m_campi;

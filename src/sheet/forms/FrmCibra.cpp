@@ -29,11 +29,10 @@ static void initResources()
 
 namespace {
 
-constexpr int kPannelloStato = 4; // of the background's status bar
-constexpr int kPannelloSuccessivo = 5;
-constexpr int kPannelloModifica = 2; // "F6 Modifica" of the form's own bar
-constexpr int kColonnaPersone = 5;   // the first of the six columns that name a person
-constexpr QRgb kGrigio = 0xffe0e0e0; // back colour of the boxes that are filled by the program
+constexpr int kPannelloSuccessivo = 5; // of the background's status bar
+constexpr int kPannelloModifica = 2;   // "F6 Modifica" of the form's own bar
+constexpr int kColonnaPersone = 5;     // the first of the six columns that name a person
+constexpr QRgb kGrigio = 0xffe0e0e0;   // back colour of the boxes that are filled by the program
 constexpr std::array kCaselleGrigie{1, 2, 4, 5, 6, 7, 10};
 
 constexpr QSize kPiuGrande(160, 52); // of a picture beside the prints
@@ -207,8 +206,8 @@ void FrmCibra::loadSheet()
     legaCampi(Datsecondaryrs);
     on(Datsecondaryrs.get(), &Recordset::moveComplete, this, &FrmCibra::Datsecondaryrs_MoveComplete);
     Datsecondaryrs_MoveComplete();
-    modulo().schermate.setPannelloSfondo(kPannelloStato, "OK!" + windowTitle() + " !");
-    modulo().schermate.setPannelloSfondo(kPannelloSuccessivo, "Procedura " + windowTitle() + " in esecuzione");
+    pannelloStato("OK!" + windowTitle() + " !");
+    modulo().schermate.setPannelloSfondo(kPannelloSuccessivo, inEsecuzione());
     codaTitolo();
     modulo().mondo.schermo.setMousePointer(MousePointer::Default);
     m_ui->Text1->setText(TestoData(modulo().mondo.orologio.today()));
@@ -356,7 +355,7 @@ void FrmCibra::Command6_Click()
 
 void FrmCibra::balanceAndReload(bool PrimaPersona, bool SecondaPersona)
 {
-    const PuntatoreLibero pointer(modulo().mondo.schermo);
+    const PuntatoreLibero afterwards(modulo().mondo.schermo); // the balancing leaves it busy
     SincronizzaKcal(modulo(), m_ui->DataCombo2->text(), PrimaPersona, SecondaPersona);
     CercaSchedaPranzo(m_ui->DataCombo2->text());
 }
