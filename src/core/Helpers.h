@@ -5,7 +5,7 @@
 
 // Exactly `Larghezza` characters: cut, or padded with blanks.
 QString Allinea(const QString &Testo, int Larghezza);
-// The operating system's folder.
+// The operating system's folder: what SystemRoot of the environment says, else /usr.
 QString CartellaWindows();
 // Position of the first "'" from 1, 0 where there is none.
 int PosizioneApice(const QString &Testo);
@@ -15,7 +15,9 @@ qint64 NuovoId(ModNetServer &modulo, const QString &Tabella);
 QString Accenta(const QString &Testo);
 // Whether every character is a digit, "." or ","; true for an empty text.
 bool SoloNumeri(const QString &Testo);
-// Opens TESTI\<Nome>.txt, the notes file of a form, in the text viewer; makes it where it is missing.
+// Opens TESTI\<Nome>.txt, the notes file of a form, in the text viewer; makes it where it is missing. Throws
+// Failure(PathAccess) where it cannot be made, Failure(FileNotFound) where there is no viewer.
 void SegnalaProblemi(ModNetServer &modulo, const QString &Nome);
-// Keeps a dated list of the form's source file where one stands beside the program; else does nothing.
+// Keeps a dated list of the form's source file where one stands beside the program; else does nothing. Throws
+// Failure(PathAccess) where the list cannot be written.
 void RegistraModifica(ModNetServer &modulo, const QString &File);

@@ -34,5 +34,6 @@ double CalcolaKCal(const DatiPersona &dati);
 QString DomandaKCal(double K);
 // The person that NomeScelto names; with two equal names the first one. Nobody where it is empty.
 std::optional<Persona> PersonaScelta(const ModNetServer &modulo);
-// Opens \HTML\Calorie.html where the marker \INI\Calorie.ini stands, else a public page.
+// Opens \HTML\Calorie.html where the marker \INI\Calorie.ini stands, else a public page. Throws
+// Failure(FileNotFound) where there is no browser.
 void ConsultaCalcoloHtml(ModNetServer &modulo);

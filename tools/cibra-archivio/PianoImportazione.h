@@ -36,5 +36,6 @@ struct PianoImportazione
     QStringList note;     // in Italian
 };
 
-// A file that holds Messaggi and none of the household's tables becomes a system archive.
+// A file that holds Messaggi and none of the household's tables becomes a system archive. What
+// the file lacks or cannot bring along is told in the plan; nothing is thrown.
 PianoImportazione pianoImportazione(const ContenutoMdb &content);

@@ -32,6 +32,8 @@ struct SchemaArchivio
     const TabellaSchema *tabella(const QString &name) const; // whatever the case; null where there is none
 };
 
+// Reads a script that is written like archive/schema.sql, a column a line. What looks otherwise is passed over; nothing
+// is thrown.
 SchemaArchivio leggiSchema(const QString &script);
-// The script with the text column of that table made `characters` wide.
+// The script with the text column of that table made `characters` wide; as it was where it declares no such column.
 QString conColonnaPiuLarga(const QString &script, const QString &table, const QString &column, int characters);

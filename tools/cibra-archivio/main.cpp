@@ -1,4 +1,5 @@
-// cibra-archivio: makes, imports, checks and protects archives from the command line.
+// cibra-archivio: makes, imports, checks, repairs, protects and restores archives, and runs the maintenance commands on
+// them, from the command line.
 #include "ChiediPassword.h"
 #include "ComandoManutenzione.h"
 #include "CreaArchivio.h"

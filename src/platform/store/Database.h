@@ -29,11 +29,14 @@ public:
 
     // The Jet statement translated, prepared and with its values bound. Throws Failure(Engine).
     PreparedStatement &prepare(const QString &statement);
-    // The rows that it changed.
+    // Runs a Jet statement to its end; gives how many rows it changed, 0 where it only reads. Throws Failure(Engine).
     qint64 execute(const QString &statement);
+    // Never null; read anew where a table has meanwhile got more columns. Throws Failure(Engine).
     const std::shared_ptr<const ResultShape> &shapeOf(PreparedStatement &prepared);
 
+    // Null where the archive has no such table or view. Throws Failure(Engine).
     std::shared_ptr<const TableInfo> table(const QString &name);
+    // Of a table that table() gave.
     RowWriter &writer(const std::shared_ptr<const TableInfo> &table);
 
 private:

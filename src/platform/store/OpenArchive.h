@@ -20,4 +20,5 @@ enum class OpenFor
     Inspection, // nothing of the file is changed, not even the way its journal is kept
 };
 
+// Throws no Failure: whatever hinders it is told in the result, and the database is null then.
 OpenedArchive openArchive(const QString &path, const QString &password, OpenFor purpose = OpenFor::Use);

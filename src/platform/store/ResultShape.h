@@ -27,5 +27,6 @@ struct ResultShape
 
 using TableLookup = std::function<std::shared_ptr<const TableInfo>(const QString &)>;
 
+// Never null. `tableNamed` gives null for a table that is not there; what it throws goes through.
 std::shared_ptr<const ResultShape> readShape(const Statement &statement, const Translation &translation,
                                              const TableLookup &tableNamed);

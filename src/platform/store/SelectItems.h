@@ -16,4 +16,5 @@ private:
     QStringList m_items;
 };
 
+// Of one of the engine's own statements; without items where it is no select. Never throws.
 SelectHeads selectHeads(const QString &statement);
