@@ -64,7 +64,8 @@ full)
     cp -r "$work/kept/." "$folder/Archivio"
     ;;
 locked)
-    # Another program writes for as long as the scenario lasts.
+    # Another program writes for as long as the scenario lasts: its input stays open until the end of this script.
+    # shellcheck disable=SC2034
     exec {hold}> >("$locker" "$folder/Archivio/famiglia.db" >"$work/locked")
     until [ -s "$work/locked" ]; do sleep 0.05; done
     ;;

@@ -247,13 +247,12 @@ int main(int argc, char **argv)
         std::fputs(kAiuto, stdout);
         return kBene;
     }
+    const bool named = !arguments.contains(QString()); // no file has an empty name
     int status = kUsoErrato;
     try {
-        if (arguments.contains(QString()))
-            status = kUsoErrato;
-        else if (arguments.size() == 2)
+        if (named && arguments.size() == 2)
             status = esegui(arguments[0], arguments[1]);
-        else if (arguments.size() == 3)
+        else if (named && arguments.size() == 3)
             status = eseguiConDue(arguments[0], arguments[1], arguments[2]);
     } catch (const Failure &failure) {
         scrivi(stderr, "cibra-archivio: " + failure.words());
