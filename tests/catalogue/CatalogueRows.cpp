@@ -1,6 +1,6 @@
 #include "catalogue/CatalogueRows.h"
 
-#include "dialect/Corpus.h"
+#include "support/DialectCorpus.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Every statement of the corpus: its translation, and that it runs on a real archive.
-#include "dialect/Corpus.h"
 #include "platform/Failure.h"
 #include "platform/store/Connection.h"
 #include "platform/store/JetTranslator.h"
 #include "platform/store/Recordset.h"
+#include "support/DialectCorpus.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"

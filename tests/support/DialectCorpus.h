@@ -1,4 +1,4 @@
-// The files of this folder, read. README.md tells their form.
+// The statements of tests/dialect, read. The README.md there tells the form of the files.
 #pragma once
 
 #include <QString>

@@ -1,4 +1,4 @@
-#include "dialect/Corpus.h"
+#include "support/DialectCorpus.h"
 
 #include <QDir>
 #include <QFile>
