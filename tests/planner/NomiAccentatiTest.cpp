@@ -1,20 +1,11 @@
 // Names with accents and apostrophes on the whole road: planned, expanded, balanced, printed.
 #include "core/Helpers.h"
-#include "planner/EspandiCalendario.h"
 #include "planner/PlannerTest.h"
+#include "planner/SenzaPianificatore.h"
 #include "sheet/StampaHtml.h"
 #include "sheet/StampaTesto.h"
 
 namespace {
-
-class NoForm : public FormPianificatore
-{
-public:
-    void setCaption(const QString &) override {}
-    void setBarraVisibile(bool) override {}
-    void mnuCrea() override {}
-    void ridisegna() override {}
-};
 
 class NomiAccentatiTest : public PlannerTest
 {
@@ -42,7 +33,7 @@ protected:
     void expand()
     {
         world.dialoghi.answer(MsgAnswer::Si);
-        NoForm form;
+        SenzaPianificatore form;
         mnuGenera(world.modulo, {"02/03/2025", "02/03/2025", true}, form);
     }
 };

@@ -1,8 +1,9 @@
 #include "road/RoadWorld.h"
 
+#include "core/SenzaFinestre.h"
 #include "CreaArchivio.h"
-#include "planner/EspandiCalendario.h"
 #include "planner/GeneraMenuProvvisori.h"
+#include "planner/SenzaPianificatore.h"
 #include "platform/text/Dates.h"
 
 #include <QFile>
@@ -31,42 +32,6 @@ public:
     void start(ProgramKind, const QString &) override {}
 };
 
-class NoSchermo : public Schermo
-{
-public:
-    void setMousePointer(int) override {}
-    void beep() override {}
-    bool breathe() override { return false; }
-};
-
-class NoSchermate : public Schermate, public BarraDelPianificatore
-{
-public:
-    void mostraGestioneRete() override {}
-    void percorsoNellaBarra(const QString &) override {}
-    void erroreSuSfondo(const QString &, const QString &) override {}
-    void nascondiErroreSfondo() override {}
-    void suggerimentoErroreSfondo(const QString &) override {}
-    QString pannelloSfondo(int) override { return {}; }
-    void setPannelloSfondo(int, const QString &) override {}
-    BarraDelPianificatore &barra() override { return *this; }
-    double larghezzaPicture1() override { return 9000; }
-    double larghezzaLabel5() override { return m_label5; }
-    void setLarghezzaLabel5(double twips) override { m_label5 = twips; }
-
-private:
-    double m_label5 = 200;
-};
-
-class NoForm : public FormPianificatore
-{
-public:
-    void setCaption(const QString &) override {}
-    void setBarraVisibile(bool) override {}
-    void mnuCrea() override {}
-    void ridisegna() override {}
-};
-
 // Made once and copied: making the catalogue is no part of what is measured.
 QString exampleArchive()
 {
@@ -87,8 +52,8 @@ struct RoadWorld::Private
     NoProgrammi programmi;
     OrologioFermo orologio{QDateTime(kFirstDay, QTime(8, 0))};
     DadoFisso dado;
-    NoSchermo schermo;
-    NoSchermate schermate;
+    SenzaSchermo schermo;
+    SenzaSchermate schermate;
     Environment mondo{ProgramFolder(folder.path()), dialoghi, programmi, orologio, dado, schermo};
     ModNetServer modulo{mondo, schermate};
 };
@@ -118,7 +83,7 @@ void RoadWorld::planExpandBalance(int days)
     InsiemiPiatti sets;
     sets.Apri(modulo().dati());
     GeneraMenuProvvisori(modulo(), sets, choice);
-    NoForm form;
+    SenzaPianificatore form;
     mnuGenera(modulo(), {choice.Text1, choice.Text2, true}, form);
 }
 

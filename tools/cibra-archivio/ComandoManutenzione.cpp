@@ -3,6 +3,7 @@
 #include "ChiediPassword.h"
 #include "core/Household.h"
 #include "core/Locations.h"
+#include "core/SenzaFinestre.h"
 #include "shell/Manutenzione.h"
 
 #include <QDir>
@@ -41,28 +42,10 @@ public:
     void start(ProgramKind, const QString &target) override { scrivi("File: " + target); }
 };
 
-class SchermoDelTerminale : public Schermo
+class SchermoDelTerminale : public SenzaSchermo
 {
 public:
-    void setMousePointer(int) override {}
     void beep() override { std::fputs("\a", stderr); }
-    bool breathe() override { return false; }
-};
-
-class NessunaSchermata : public Schermate, public BarraDelPianificatore
-{
-public:
-    void mostraGestioneRete() override {}
-    void percorsoNellaBarra(const QString &) override {}
-    void erroreSuSfondo(const QString &, const QString &) override {}
-    void nascondiErroreSfondo() override {}
-    void suggerimentoErroreSfondo(const QString &) override {}
-    QString pannelloSfondo(int) override { return {}; }
-    void setPannelloSfondo(int, const QString &) override {}
-    BarraDelPianificatore &barra() override { return *this; }
-    double larghezzaPicture1() override { return 0; }
-    double larghezzaLabel5() override { return 0; }
-    void setLarghezzaLabel5(double) override {}
 };
 
 ProgramFolder cartellaDelProgramma(const QString &archivio)
@@ -105,7 +88,7 @@ struct Terminale
     OrologioDiSistema orologio;
     DadoFisso dado;
     SchermoDelTerminale schermo;
-    NessunaSchermata schermate;
+    SenzaSchermate schermate;
     Environment mondo;
     ModNetServer modulo;
 };
