@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-
 TEST(AllineaTest, CutsOrPadsToTheWidth)
 {
     EXPECT_EQ(Allinea("Pranzo", 4), "Pran");
@@ -42,9 +40,15 @@ TEST(PosizioneApiceTest, CountsFromOne)
     EXPECT_EQ(PosizioneApice(""), 0);
 }
 
-TEST(CartellaWindowsTest, NamesAFolderOfTheSystem)
+TEST(CartellaWindowsTest, IsWhatTheSystemNamesElseUsr)
 {
-    EXPECT_TRUE(QDir(CartellaWindows()).exists());
+    const QByteArray before = qgetenv("SystemRoot");
+    qputenv("SystemRoot", "/sistema");
+    EXPECT_EQ(CartellaWindows(), "/sistema");
+    qunsetenv("SystemRoot");
+    EXPECT_EQ(CartellaWindows(), "/usr");
+    if (!before.isNull())
+        qputenv("SystemRoot", before);
 }
 
 TEST(NuovoIdTest, IsOneMoreThanTheHighestKey)
