@@ -1,8 +1,8 @@
-// The commands of Manutenzione.h that write and read the file of exchange.
+#include "shell/TestiDeiPiatti.h"
+
 #include "platform/text/Blanks.h"
 #include "platform/text/Numbers.h"
 #include "platform/text/TextFile.h"
-#include "shell/Manutenzione.h"
 #include "shell/RigheDelMemo.h"
 
 #include <QFileInfo>
