@@ -3,8 +3,18 @@ install(TARGETS cibra cibra-archivio RUNTIME DESTINATION bin)
 install(FILES packaging/cibra.desktop DESTINATION share/applications)
 install(FILES packaging/cibra.metainfo.xml DESTINATION share/metainfo)
 install(FILES src/shell/forms/icons/cibra.svg DESTINATION share/icons/hicolor/scalable/apps)
-# The manual shows the pictures by their place beside it.
-install(DIRECTORY docs/manuale docs/schermate DESTINATION share/doc/cibra)
+install(DIRECTORY docs/manuale DESTINATION share/doc/cibra)
+# The manual shows pictures by their place beside it; those that it does not show stay here.
+file(GLOB chapters CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/docs/manuale/*.md")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${chapters})
+foreach(chapter IN LISTS chapters)
+  file(READ "${chapter}" text)
+  string(REGEX MATCHALL "schermate/[^/)]+\\.png" shown "${text}")
+  list(APPEND pictures ${shown})
+endforeach()
+list(REMOVE_DUPLICATES pictures)
+list(TRANSFORM pictures PREPEND docs/)
+install(FILES ${pictures} DESTINATION share/doc/cibra/schermate)
 install(FILES packaging/copyright archive/Fonti.csv CHANGELOG.md DESTINATION share/doc/cibra)
 
 # What goes into the package is built before; making it builds nothing else.
