@@ -293,4 +293,18 @@ TEST_F(CibraArchivioTest, ASignalThatIsIgnoredStopsNoImport)
     EXPECT_EQ(files(), QStringList("famiglia.db"));
 }
 
+// A file may grow to 50 kB here, as where the disk has no more room.
+TEST_F(CibraArchivioTest, AnImportThatFindsNoRoomSaysWhereAndThatNothingWasImported)
+{
+    QProcess tool;
+    tool.start("/bin/sh", {"-c", "trap '' XFSZ; ulimit -f 100; exec \"$0\" importa \"$1\" \"$2\"", CIBRA_ARCHIVIO,
+                           sample("famiglia2000.mdb"), path});
+    ASSERT_TRUE(tool.waitForFinished(60000));
+    EXPECT_EQ(tool.exitCode(), 1);
+    EXPECT_EQ(QString::fromUtf8(tool.readAllStandardError()),
+              "cibra-archivio: L'archivio nuovo non si può scrivere nella cartella \"" + folder.path() +
+                  "\": Errore di lettura o scrittura del disco (disk I/O error). Niente è stato importato\n");
+    EXPECT_EQ(files(), QStringList());
+}
+
 } // namespace

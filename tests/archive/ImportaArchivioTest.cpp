@@ -597,4 +597,14 @@ TEST_F(ImportaArchivioTest, AColumnOfOursIsAsWideAsTheFilesAndNeverNarrower)
               (QJsonArray{QJsonArray{"Piatti"}}));
 }
 
+TEST_F(ImportaArchivioTest, ATableThatGetsAnotherNameTakesThatOfNoOther)
+{
+    const QByteArray column = "COLONNA\ta\tlungo\t4\t-\nFINETABELLA\t0\n";
+    readerSends("CIBRA-MDB 1\nTABELLA\timportata_menugiorno\t0\n" + column + "TABELLA\tMenuGiorno\t0\n" + column +
+                "FINE\t2\n");
+    EXPECT_EQ(importaArchivio(sample("vuoto.mdb"), to, {}, reader).note,
+              QStringList({"nel file non c'è nessuna tabella di questo programma",
+                           "la tabella \"MenuGiorno\" si chiama ora \"importata_importata_MenuGiorno\""}));
+}
+
 } // namespace

@@ -1,6 +1,7 @@
-// Whatever the reading of an old archive sends, and whatever its head and texts are: it is taken or refused, and what
-// is taken can be written again as the same.
+// Whatever the reading of an old archive sends, and whatever its head and texts are: it is taken or refused. What is
+// taken can be written again as the same, and the engine makes the tables that are planned for it.
 #include "FlussoMdb.h"
+#include "PianoImportazione.h"
 #include "platform/Failure.h"
 #include "TestataMdb.h"
 #include "TestoMdb.h"
@@ -8,6 +9,9 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
+
+#include <sqlcipher/sqlite3.h>
 
 namespace {
 
@@ -37,6 +41,36 @@ QByteArray streamOf(const ContenutoMdb &content)
     return stream + rigaFine(qint64(content.tabelle.size()));
 }
 
+QByteArray quoted(const QString &name)
+{
+    return '"' + name.toUtf8().replace("\"", "\"\"") + '"';
+}
+
+void mustBeGood(sqlite3 *archive, int result, const QByteArray &told)
+{
+    if (result == SQLITE_OK)
+        return;
+    std::fprintf(stderr, "%s\n%s\n", sqlite3_errmsg(archive), told.constData());
+    std::abort();
+}
+
+// Every column of the plan is there, by its name.
+void makeTables(const PianoImportazione &plan)
+{
+    sqlite3 *raw = nullptr;
+    sqlite3_open(":memory:", &raw);
+    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> archive(raw, sqlite3_close);
+    const QByteArray script = plan.script.toUtf8();
+    mustBeGood(raw, sqlite3_exec(raw, script.constData(), nullptr, nullptr, nullptr), script);
+    for (const TabellaPrevista &table : plan.tabelle) {
+        QByteArrayList names;
+        for (const ColonnaPrevista &column : table.colonne)
+            names += quoted(table.nome) + '.' + quoted(column.nome);
+        const QByteArray select = "SELECT " + names.join(", ") + " FROM " + quoted(table.nome);
+        mustBeGood(raw, sqlite3_exec(raw, select.constData(), nullptr, nullptr, nullptr), select);
+    }
+}
+
 void importValues(const ContenutoMdb &content)
 {
     for (const TabellaMdb &table : content.tabelle)
@@ -63,6 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char *data, std::size_t siz
         return 0;
     }
     importValues(content);
+    makeTables(pianoImportazione(content));
     // Outside the try: what was taken once must be taken again.
     const QByteArray once = streamOf(content);
     if (streamOf(contentOf(once, once.size())) != once) {

@@ -86,6 +86,15 @@ QString unescaped(QByteArrayView bytes)
     return QString::fromUtf8(plain);
 }
 
+// A name that an archive can have.
+QString nameIn(QByteArrayView bytes)
+{
+    const QString name = unescaped(bytes);
+    if (name.isEmpty() || name.contains(QChar::Null))
+        disordine();
+    return name;
+}
+
 qint64 wholeIn(QByteArrayView bytes)
 {
     bool good = false;
@@ -317,9 +326,8 @@ void LettoreFlusso::table(const QList<QByteArrayView> &fields)
 {
     expect(m_state == State::BetweenTables && fields.size() == 2);
     TabellaMdb next;
-    next.nome = unescaped(fields[0]);
+    next.nome = nameIn(fields[0]);
     next.righeDichiarate = countIn(fields[1]);
-    expect(!next.nome.isEmpty());
     for (const TabellaMdb &other : m_content.tabelle)
         expect(other.nome.compare(next.nome, Qt::CaseInsensitive) != 0);
     m_content.tabelle.push_back(std::move(next));
@@ -331,8 +339,8 @@ void LettoreFlusso::column(const QList<QByteArrayView> &fields)
     expect(m_state == State::Columns && fields.size() == 4);
     QList<ColonnaMdb> &columns = m_content.tabelle.back().colonne;
     ColonnaMdb next;
-    next.nome = unescaped(fields[0]);
-    expect(!next.nome.isEmpty() && columns.size() < kMostColumns);
+    next.nome = nameIn(fields[0]);
+    expect(columns.size() < kMostColumns);
     for (const ColonnaMdb &other : std::as_const(columns))
         expect(other.nome.compare(next.nome, Qt::CaseInsensitive) != 0);
     bool known = false;

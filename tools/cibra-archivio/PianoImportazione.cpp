@@ -96,7 +96,10 @@ private:
         if (!name.startsWith(QStringLiteral("sqlite_"), Qt::CaseInsensitive) &&
             !m_schema.indici.contains(name, Qt::CaseInsensitive))
             return name;
-        const QString other = QStringLiteral("importata_") + name;
+        QString other = QStringLiteral("importata_") + name;
+        while (std::any_of(m_content.tabelle.begin(), m_content.tabelle.end(),
+                           [&](const TabellaMdb &table) { return same(table.nome, other); }))
+            other.prepend(QStringLiteral("importata_"));
         m_plan.note += QStringLiteral("la tabella \"%1\" si chiama ora \"%2\"").arg(name, other);
         return other;
     }
