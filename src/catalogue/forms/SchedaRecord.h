@@ -49,8 +49,6 @@ protected:
         QString testo, suggerimento;
     };
 
-    using RigaPosizione = ::RigaPosizione;
-
     SchedaRecord(const QString &name, FormHost &host, ModNetServer &modulo);
     ~SchedaRecord() override;
     // Finds the template's controls, makes the panels of StatusBar1 (seven or nine) and connects the handlers.
@@ -152,7 +150,6 @@ protected:
     const std::map<int, CasellaLegata *> &campi() const { return m_campi; }
     QAction *voce(const char *name) const; // null where the form has no such entry
     void mostraVoce(const char *name, bool visible);
-    DataGrid &griglia() { return *m_griglia; }
     QLabel &lblStatus() { return *m_lblStatus; }
     StatusPanels &barra() { return *m_barra; }
     ModNetServer &modulo() const { return m_modulo; }

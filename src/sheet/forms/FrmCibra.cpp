@@ -177,7 +177,7 @@ QString FrmCibra::campoRicerca() const
     return "Nominativo";
 }
 
-SchedaRecord::RigaPosizione FrmCibra::rigaNavigazione(bool) const
+RigaPosizione FrmCibra::rigaNavigazione(bool) const
 {
     return Posizione::Salvata;
 }
