@@ -268,11 +268,11 @@ void controlla(const QString &path, const QString &password, const ContenutoMdb 
     }
 }
 
-QString nomi(const RapportoImportazione &report, bool ours)
+QString nomiPortati(const RapportoImportazione &report)
 {
     QStringList names;
     for (const RapportoImportazione::Tabella &table : report.tabelle)
-        if (table.nostra == ours)
+        if (!table.nostra)
             names += table.nome;
     return names.join(QStringLiteral(", "));
 }
@@ -309,7 +309,7 @@ QStringList testoRapporto(const RapportoImportazione &report)
     lines += QStringLiteral("Formato Jet %1, tabelle %2").arg(report.jet).arg(report.tabelle.size());
     for (const RapportoImportazione::Tabella &table : report.tabelle)
         lines += QStringLiteral("%1: righe lette %2, scritte %3").arg(table.nome).arg(table.lette).arg(table.scritte);
-    if (const QString carried = nomi(report, false); !carried.isEmpty())
+    if (const QString carried = nomiPortati(report); !carried.isEmpty())
         lines += QStringLiteral("Tabelle che il programma non usa, portate come sono: %1").arg(carried);
     if (!report.mancanti.isEmpty())
         lines += QStringLiteral("Tabelle che il file non ha, lasciate vuote: %1")

@@ -61,7 +61,12 @@ protected:
     virtual QString richiestaRicerca() const = 0; // prompt of the search
     virtual QString campoRicerca() const = 0;     // the column that the search looks through
     // Position line of the four navigation commands, and what they tell on the background beforehand.
-    virtual RigaPosizione rigaNavigazione(bool alPrimo) const;
+    enum class Arrivo
+    {
+        AlPrimo,
+        Altrove
+    };
+    virtual RigaPosizione rigaNavigazione(Arrivo arrivo) const;
     virtual void annunciaNavigazione();
     // First thing in every command on records (navigation, add, save, delete, search, refresh, grid), before its own
     // steps; what it throws ends the command.

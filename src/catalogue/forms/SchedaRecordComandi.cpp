@@ -139,12 +139,12 @@ void SchedaRecord::MnuContrChar_Click()
         m_lblStatus->setText("Elaborazione in corso ... Attendere prego ..");
         m_lblStatus->repaint();
         ControllaCaratteri(*RsScheda, m_modulo.dati());
-        scriviPosizione(rigaNavigazione(true));
+        scriviPosizione(rigaNavigazione(Arrivo::AlPrimo));
     } catch (const Failure &errore) {
         messaggio("Errore generico", errore.words() + " # ", {"#@!?   OK!"}, Immagine::Caratteri);
         ScriviLogErroreForm(m_modulo, name(), "MnuContrChar_Click ", errore);
         dopoErrore(errore);
-        scriviPosizione(rigaNavigazione(true));
+        scriviPosizione(rigaNavigazione(Arrivo::AlPrimo));
     }
 }
 

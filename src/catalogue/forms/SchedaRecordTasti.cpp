@@ -145,9 +145,9 @@ void SchedaRecord::scriviPosizioneSalvata()
     scriviPosizione(Posizione::Salvata);
 }
 
-RigaPosizione SchedaRecord::rigaNavigazione(bool alPrimo) const
+RigaPosizione SchedaRecord::rigaNavigazione(Arrivo arrivo) const
 {
-    return alPrimo ? Posizione::AlPrimo : Posizione::Navigazione;
+    return arrivo == Arrivo::AlPrimo ? Posizione::AlPrimo : Posizione::Navigazione;
 }
 
 void SchedaRecord::annunciaNavigazione()
@@ -161,7 +161,7 @@ void SchedaRecord::cmdFirst_Click()
         annunciaNavigazione();
         if (RsScheda->RecordCount() > 0)
             RsScheda->MoveFirst();
-        scriviPosizione(rigaNavigazione(true));
+        scriviPosizione(rigaNavigazione(Arrivo::AlPrimo));
     });
 }
 
@@ -171,7 +171,7 @@ void SchedaRecord::cmdLast_Click()
         annunciaNavigazione();
         if (RsScheda->RecordCount() > 0)
             RsScheda->MoveLast();
-        scriviPosizione(rigaNavigazione(false));
+        scriviPosizione(rigaNavigazione(Arrivo::Altrove));
     });
 }
 
@@ -186,7 +186,7 @@ void SchedaRecord::cmdNext_Click()
             m_modulo.mondo.schermo.beep();
             RsScheda->MoveFirst();
         }
-        scriviPosizione(rigaNavigazione(false));
+        scriviPosizione(rigaNavigazione(Arrivo::Altrove));
     });
 }
 
@@ -200,6 +200,6 @@ void SchedaRecord::cmdPrevious_Click()
             m_modulo.mondo.schermo.beep();
             RsScheda->MoveLast();
         }
-        scriviPosizione(rigaNavigazione(false));
+        scriviPosizione(rigaNavigazione(Arrivo::Altrove));
     });
 }

@@ -177,7 +177,7 @@ QString FrmCibra::campoRicerca() const
     return "Nominativo";
 }
 
-RigaPosizione FrmCibra::rigaNavigazione(bool) const
+RigaPosizione FrmCibra::rigaNavigazione(Arrivo) const
 {
     return Posizione::Salvata;
 }
@@ -343,20 +343,21 @@ void FrmCibra::DataCombo2_Change()
 // The second person's balancing ends on the first row, the first person's does not.
 void FrmCibra::Command5_Click()
 {
-    balanceAndReload(false, true);
+    balanceAndReload(Bilanciata::SecondaPersona);
     if (!Datsecondaryrs->Bof() || !Datsecondaryrs->Eof())
         Datsecondaryrs->MoveFirst();
 }
 
 void FrmCibra::Command6_Click()
 {
-    balanceAndReload(true, false);
+    balanceAndReload(Bilanciata::PrimaPersona);
 }
 
-void FrmCibra::balanceAndReload(bool PrimaPersona, bool SecondaPersona)
+void FrmCibra::balanceAndReload(Bilanciata persona)
 {
     const PuntatoreLibero afterwards(modulo().mondo.schermo); // the balancing leaves it busy
-    SincronizzaKcal(modulo(), m_ui->DataCombo2->text(), PrimaPersona, SecondaPersona);
+    SincronizzaKcal(modulo(), m_ui->DataCombo2->text(), persona == Bilanciata::PrimaPersona,
+                    persona == Bilanciata::SecondaPersona);
     CercaSchedaPranzo(m_ui->DataCombo2->text());
 }
 

@@ -36,7 +36,7 @@ protected:
     Recordset::Access accesso() const override { return Recordset::Access::ReadOnly; }
     QString richiestaRicerca() const override;
     QString campoRicerca() const override;
-    RigaPosizione rigaNavigazione(bool alPrimo) const override;
+    RigaPosizione rigaNavigazione(Arrivo) const override;
     void annunciaNavigazione() override {}            // nothing on the background
     void MnuDisabilita() override;                    // shorter than the template's: the bar keeps its panels
     void annulla() override;                          // drops what waits in the row on show
@@ -59,6 +59,12 @@ protected:
     void MnuHelp_Click() override;
 
 private:
+    enum class Bilanciata
+    {
+        PrimaPersona,
+        SecondaPersona
+    };
+
     // The boxes TxtFields of the row on show, by their index.
     struct Casella
     {
@@ -109,7 +115,7 @@ private:
     void beginChange();
     void takeBackChange();
     void showTotals(const TotaliGiorno &totali);
-    void balanceAndReload(bool PrimaPersona, bool SecondaPersona);
+    void balanceAndReload(Bilanciata persona);
     void recalculate(int index);
     bool leaveTypedBoxes();
     bool hasRow() const;
