@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Makes the pictures of docs/schermate anew: every screen at its smallest and large, empty and full. Look at them after
 # a change to a screen. A line "schermata NAME [FORM]" of the scripts in tools/schermate takes NAME-piccola.png and
-# NAME-grande.png of the form, or NAME.png of the message box in front. The pages for the browser are taken in Chromium.
+# NAME-grande.png of the form, or NAME.png of the message box in front; "scatta NAME FORM" takes the form
+# as it is. The pages for the browser are taken in Chromium.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/prepara.sh
@@ -20,6 +21,7 @@ mkdir -p "$pictures"
 espandi() {
     awk -v folder="$pictures" '
         function shot(name, form) { print "shot \"" folder "/" name ".png\" " form }
+        $1 == "scatta" { shot($2, $3); next }
         $1 != "schermata" { print; next }
         NF == 2 { shot($2, ""); next }
         { print "resize " $3 " 1 1"; shot($2 "-piccola", $3)
@@ -38,7 +40,12 @@ rm "$work/vuota/Archivio/famiglia.db"
 "$bin/cibra-archivio" nuovo "$work/vuota/Archivio/famiglia.db"
 sed -i "s|$work/piena|$work/vuota|" "$work/vuota/INI/GestioneRete.INI"
 
+cp -r "$work/piena" "$work/protetta"
+sed -i "s|$work/piena|$work/protetta|" "$work/protetta/INI/GestioneRete.INI"
+printf 'segreta\nsegreta\n' | "$bin/cibra-archivio" proteggi "$work/protetta/Archivio/famiglia.db"
+
 scatta vuota "$work/vuota"
+scatta protetta "$work/protetta"
 scatta piena "$work/piena"
 tools/schermate/pagine.sh "$bin" "$work/piena" "$pictures"
 ls "$pictures"
