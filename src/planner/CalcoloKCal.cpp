@@ -29,7 +29,7 @@ double CalcolaKCal(const DatiPersona &dati)
     const double costante = dati.sesso == Sesso::Maschio ? 5 : -161;
     const double K = 6.25 * H + 10 * W - (5 * A + costante);
     if (!std::isfinite(K))
-        throw Failure(FailureNumber::TypeMismatch, "Eta, altezza e peso danno un numero troppo grande");
+        throw Failure(FailureNumber::TypeMismatch, "Età, altezza e peso danno un numero troppo grande");
     return K;
 }
 

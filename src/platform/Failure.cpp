@@ -12,7 +12,7 @@ QString usualWords(FailureNumber number)
     case FailureNumber::InputPastEnd:
         return QStringLiteral("Lettura oltre la fine del file");
     case FailureNumber::PathAccess:
-        return QStringLiteral("Il file o la cartella non può essere scritto");
+        return QStringLiteral("Non si può scrivere il file o la cartella");
     case FailureNumber::PathNotFound:
         return QStringLiteral("Cartella non trovata");
     case FailureNumber::InvalidNull:

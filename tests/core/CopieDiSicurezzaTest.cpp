@@ -221,8 +221,8 @@ TEST_F(CopieDiSicurezzaTest, AFailureIsSaidOnceAndTheProgramGoesOn)
     change("Ondira");
     CopiaDiSicurezza(world.modulo);
     CopiaDiSicurezza(world.modulo);
-    const QString words = "La copia di sicurezza dell'archivio non è stata fatta, quelle di prima restano: Il file o "
-                          "la cartella non può essere scritto: " +
+    const QString words = "La copia di sicurezza dell'archivio non è stata fatta, quelle di prima restano: Non si "
+                          "può scrivere il file o la cartella: " +
                           world.cartella.path("Copie");
     EXPECT_EQ(world.schermate.errors, QStringList("Procedura ModNetServer - Errore:75 | " + words));
     const QString log = QString::fromUtf8(world.cartella.read("Errori\\ErrModNetServer.txt"));

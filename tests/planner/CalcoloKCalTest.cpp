@@ -34,7 +34,7 @@ TEST_F(CalcoloKCalTest, ABoxThatHoldsNoNumberIsNamed)
 {
     const std::pair<DatiPersona, const char *> cases[] = {
         {{Sesso::Maschio, "40", "alta", "x"}, "Tipo non corrispondente: \"alta\" non è un numero (Altezza in cm.)"},
-        {{Sesso::Femmina, "", "170", "70"}, "Tipo non corrispondente: \"\" non è un numero (Eta in anni)"},
+        {{Sesso::Femmina, "", "170", "70"}, "Tipo non corrispondente: il numero manca (Eta in anni)"},
         {{Sesso::Femmina, "40", "170", "70 Kg"}, "Tipo non corrispondente: \"70 Kg\" non è un numero (Peso in Kg)"},
     };
     for (const auto &each : cases)
@@ -43,8 +43,10 @@ TEST_F(CalcoloKCalTest, ABoxThatHoldsNoNumberIsNamed)
 
 TEST_F(CalcoloKCalTest, FiguresBeyondEveryNumberAreRefused)
 {
-    EXPECT_EQ(wordsOf([] { CalcolaKCal({Sesso::Maschio, "40", "1E308", "70"}); }),
-              "Eta, altezza e peso danno un numero troppo grande");
+    EXPECT_EQ(wordsOf([] {
+                  CalcolaKCal({Sesso::Maschio, "40", "1E308", "70"});
+              }),
+              "Età, altezza e peso danno un numero troppo grande");
 }
 
 TEST_F(CalcoloKCalTest, TheQuestionHoldsTheFigureWithADecimalComma)

@@ -31,7 +31,7 @@ TEST_F(ArchiveFileTest, AFileThatIsThereIsNeverOverwritten)
     const auto failure = failureOf([&] { makeArchive(path(), u"CREATE TABLE Altra (ID INTEGER)"_s); });
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), FailureNumber::PathAccess);
-    EXPECT_EQ(failure->words(), u"Il file o la cartella non può essere scritto: %1 esiste già"_s.arg(path()));
+    EXPECT_EQ(failure->words(), u"Non si può scrivere il file o la cartella: %1 esiste già"_s.arg(path()));
     EXPECT_EQ(failureNumber([&] { copyEncrypted(path(), path(), u"x"_s); }), int(FailureNumber::PathAccess));
     EXPECT_EQ(m_folder.read(u"Prova.Mdb"_s), before);
 }

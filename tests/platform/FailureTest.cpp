@@ -15,7 +15,7 @@ TEST(FailureTest, EveryNumberHasItsItalianWords)
         {FailureNumber::TypeMismatch, 13, u"Tipo non corrispondente"_s},
         {FailureNumber::FileNotFound, 53, u"File non trovato"_s},
         {FailureNumber::InputPastEnd, 62, u"Lettura oltre la fine del file"_s},
-        {FailureNumber::PathAccess, 75, u"Il file o la cartella non può essere scritto"_s},
+        {FailureNumber::PathAccess, 75, u"Non si può scrivere il file o la cartella"_s},
         {FailureNumber::PathNotFound, 76, u"Cartella non trovata"_s},
         {FailureNumber::InvalidNull, 94, u"Manca un valore (valore nullo non valido)"_s},
         {FailureNumber::NoCurrentRow, 3021, u"Non c'è nessun record corrente"_s},
@@ -34,4 +34,4 @@ TEST(FailureTest, EveryNumberHasItsItalianWords)
               u"Il campo richiesto non esiste: Nominativo"_s);
 }
 
-}
+} // namespace

@@ -125,14 +125,17 @@ TEST_F(FrmCibraRigaTest, ANegativePortionLeavesItsTotal)
 
 TEST_F(FrmCibraRigaTest, AnEmptiedPortionOrATextIsToldAndLoggedAndTheRowKeepsItsPortion)
 {
-    for (const char *typed : {"", "tanto", "80 g", "1.000,5"}) {
+    const std::pair<const char *, const char *> cases[] = {{"", "il numero manca"},
+                                                           {"tanto", "\"TANTO\" non è un numero"},
+                                                           {"80 g", "\"80 G\" non è un numero"},
+                                                           {"1.000,5", "\"1.000,5\" non è un numero"}};
+    for (const auto &[typed, words] : cases) {
         show();
         enter(8, typed);
         ASSERT_EQ(world.dialoghi.boxes().size(), 1) << typed;
         EXPECT_EQ(world.dialoghi.takeBoxes().first(),
-                  QString("Msg1 \"Errore Generico\" Tipo non corrispondente: \"%1\" non è un numero "
-                          "[#@!? ... Errore!] 0 0 picture 3")
-                      .arg(QString(typed).toUpper()));
+                  QString("Msg1 \"Errore Generico\" Tipo non corrispondente: %1 [#@!? ... Errore!] 0 0 picture 3")
+                      .arg(words));
         EXPECT_TRUE(log().contains("FrmCibra * txtFields_LostFocus Tipo non corrispondente"));
         EXPECT_EQ(text(8), "200");
         EXPECT_EQ(row(0), "Colazione | Colazione 1 | Latte | 200 | 100 | 300 | 150");

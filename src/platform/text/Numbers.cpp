@@ -72,7 +72,9 @@ struct Parts
 
 [[noreturn]] void mismatch(QStringView typed)
 {
-    throw Failure::usual(FailureNumber::TypeMismatch, QStringLiteral("\"%1\" non è un numero").arg(typed));
+    throw Failure::usual(FailureNumber::TypeMismatch, typed.trimmed().isEmpty()
+                                                          ? QStringLiteral("il numero manca")
+                                                          : QStringLiteral("\"%1\" non è un numero").arg(typed));
 }
 
 Parts split(QStringView text)
