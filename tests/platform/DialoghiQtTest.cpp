@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTimer>
 #include <QtTest/QTest>
 
@@ -68,6 +69,23 @@ TEST_F(DialoghiQtTest, EscAnswersNoAndOkWhereThereIsNothingElse)
         box.close();
     });
     EXPECT_EQ(dialoghi.MsgBox("!", MsgFlags::Exclamation, "t"), MsgAnswer::Ok);
+}
+
+TEST_F(DialoghiQtTest, ALongMessageIsScrolledSoThatItsButtonsStayOnTheScreen)
+{
+    const QString foods = QString("Alimento - 100 g.\r\n").repeated(80);
+    whenShown<QMessageBox>([&](QMessageBox &box) {
+        EXPECT_LT(box.height(), 720);
+        EXPECT_EQ(box.property("testo").toString(), foods);
+        EXPECT_NE(box.findChild<QScrollArea *>(), nullptr);
+        box.close();
+    });
+    dialoghi.MsgBox(foods, MsgFlags::YesNoInformation, "Inserisci piatto");
+    whenShown<QMessageBox>([](QMessageBox &box) {
+        EXPECT_EQ(box.findChild<QScrollArea *>(), nullptr);
+        box.close();
+    });
+    dialoghi.MsgBox("uno\ndue", MsgFlags::YesNoInformation, "t");
 }
 
 TEST_F(DialoghiQtTest, ABoxWithoutATitleBearsTheProgramsName)

@@ -3,16 +3,23 @@
 #include "platform/ui/SchermoQt.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
 
 namespace {
+
+constexpr int kLinesInView = 28; // of a message; a longer one is scrolled, so that its buttons stay on the screen
+constexpr int kWidestInView = 640;
 
 struct Choice
 {
@@ -102,6 +109,27 @@ private:
     QPointer<Dialog> m_dialog;
 };
 
+// Puts the text of a long message into a view that scrolls.
+void scrollLongText(QMessageBox &box)
+{
+    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    auto *page = qobject_cast<QGridLayout *>(box.layout());
+    if (!text || !page || text->text().count('\n') < kLinesInView)
+        return;
+    int row = 0, column = 0, rows = 0, columns = 0;
+    page->getItemPosition(page->indexOf(text), &row, &column, &rows, &columns);
+    page->removeWidget(text);
+    auto *view = new QScrollArea(&box);
+    view->setFrameShape(QFrame::NoFrame);
+    view->setWidgetResizable(true);
+    text->ensurePolished();
+    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    const int wanted = text->sizeHint().width() + view->verticalScrollBar()->sizeHint().width();
+    view->setMinimumSize(std::min(wanted, kWidestInView), kLinesInView * text->fontMetrics().lineSpacing());
+    view->setWidget(text);
+    page->addWidget(view, row, column, rows, columns);
+}
+
 struct Box
 {
     QString title;
@@ -134,6 +162,7 @@ int show(FormHost &host, const Box &fields)
         answers.emplace_back(button, choice.answer);
     }
 
+    scrollLongText(*box.get());
     if (ask(host, box.get())) {
         for (const auto &[button, answer] : answers) {
             if (button == box->clickedButton())
@@ -187,6 +216,8 @@ QString DialoghiQt::InputBox(const QString &prompt, const QString &title, bool h
     const Owned<QInputDialog> dialog;
     dialog->setWindowTitle(title.isEmpty() ? m_programName : title);
     dialog->setLabelText(displayed(prompt));
+    for (QLabel *label : dialog->findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
     dialog->setInputMode(QInputDialog::TextInput);
     dialog->setTextEchoMode(hidden ? QLineEdit::Password : QLineEdit::Normal);
     dialog->setOkButtonText(QStringLiteral("OK"));
