@@ -4,6 +4,8 @@
 #include "planner/Preferiti.h"
 #include "ui_Preferiti.h"
 
+#include <QKeyEvent>
+
 namespace {
 
 const QString kSoloPreferiti = QStringLiteral("Visualizza tutti i preferiti");
@@ -56,6 +58,16 @@ void Preferiti::Form_KeyPress(int character)
     // An edit under way is given up first: the key is meant for the cell then.
     if (character == kEscape && !m_ui->TDBGrid1->cancelEdit())
         unload();
+}
+
+// Enter in the grid is no press of the default button: the rows would be read anew under the cursor.
+void Preferiti::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && m_ui->TDBGrid1->hasFocus())
+        event->accept();
+    else
+        Form::keyPressEvent(event);
 }
 
 void Preferiti::apri(const QString &query)

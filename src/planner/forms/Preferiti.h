@@ -21,6 +21,7 @@ public:
 protected:
     void Form_Load() override;
     void Form_KeyPress(int character) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void Command1_Click();

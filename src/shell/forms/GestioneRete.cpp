@@ -109,14 +109,23 @@ void GestioneRete::Dir2_Change()
 
 void GestioneRete::Percorso1_Return()
 {
-    m_ui->Dir1->setCartella(m_ui->Percorso1->text());
-    m_ui->Percorso1->setText(QDir::toNativeSeparators(m_ui->Dir1->cartella()));
+    vaiA(*m_ui->Percorso1, *m_ui->Dir1);
 }
 
 void GestioneRete::Percorso2_Return()
 {
-    m_ui->Dir2->setCartella(m_ui->Percorso2->text());
-    m_ui->Percorso2->setText(QDir::toNativeSeparators(m_ui->Dir2->cartella()));
+    vaiA(*m_ui->Percorso2, *m_ui->Dir2);
+}
+
+// The box shows the folder again before the message takes the focus from it, which counts as typed once more.
+void GestioneRete::vaiA(QLineEdit &percorso, ElencoCartelle &cartelle)
+{
+    const QString typed = percorso.text();
+    cartelle.setCartella(typed);
+    percorso.setText(QDir::toNativeSeparators(cartelle.cartella()));
+    if (!typed.trimmed().isEmpty() && !QDir(typed).exists())
+        m_modulo.mondo.dialoghi.MsgBox("La cartella \"" + typed + "\" non esiste: resta quella di prima.",
+                                       MsgFlags::Exclamation, windowTitle());
 }
 
 void GestioneRete::Command1_Click()
@@ -176,7 +185,9 @@ void GestioneRete::Form_KeyPress(int character)
 void GestioneRete::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && (m_ui->Percorso1->hasFocus() || m_ui->Percorso2->hasFocus()))
+    // Also where the message on a folder has just taken the focus for a while.
+    const bool inPath = focusWidget() == m_ui->Percorso1 || focusWidget() == m_ui->Percorso2;
+    if (isEnter && inPath)
         event->accept();
     else
         Form::keyPressEvent(event);

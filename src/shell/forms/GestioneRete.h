@@ -40,6 +40,7 @@ private:
 
     void connectHandlers();
     void posiziona();
+    void vaiA(QLineEdit &percorso, ElencoCartelle &cartelle);
     void aggiornaReport();
     QString scegliFile();
 
