@@ -1,6 +1,7 @@
 #include "platform/ui/DataCombo.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/FormHost.h"
+#include "platform/ui/GridHeader.h"
 #include "platform/ui/StatusPanels.h"
 #include "platform/ui/Tema.h"
 #include "support/TemporaryFolder.h"
@@ -74,6 +75,29 @@ TEST_F(DataGridTest, AGridThatMustScrollAnywayKeepsItsTextsReadable)
     grid.setColumns({});
     grid.setDataSource(open("Select * from Categorie"));
     EXPECT_GE(grid.columnWidth(3), grid.fontMetrics().horizontalAdvance(food));
+}
+
+TEST_F(DataGridTest, LongNamesInTheCaptionsOfNumbersGiveWaySoThatAllColumnsShow)
+{
+    std::vector<GridColumn> columns{{"Piatto", "Piatto"}, {"Alimento", "Alimento"}};
+    for (const char *field : {"quantita", "quantita2", "Totale1", "Totale2"})
+        columns.push_back({field, "Quantità Maria Concetta Immacolata"});
+    grid.setColumns(columns);
+    grid.resize(640, 300);
+    grid.setDataSource(open("Select * from Piatti order by ID"));
+    EXPECT_LE(grid.horizontalHeader()->length(), grid.viewport()->width());
+    const auto &header = static_cast<const GridHeader &>(*grid.horizontalHeader());
+    ASSERT_EQ(header.righe(2).size(), 2);
+    EXPECT_TRUE(header.righe(2).last().endsWith(u'…'));
+    EXPECT_EQ(header.righe(0), QStringList("Piatto"));
+}
+
+TEST_F(DataGridTest, MarksInADishAreNoMarkupInItsToolTip)
+{
+    insertRows(connection, "Piatti", "Piatto, Alimento, quantita", {"'<b>Riso</b>', 'Riso', 50"});
+    rows->Requery();
+    EXPECT_TRUE(grid.model()->index(3, 0).data(Qt::ToolTipRole).toString().contains("&lt;b&gt;Riso"));
+    EXPECT_EQ(grid.model()->index(0, 0).data(Qt::ToolTipRole).toString(), "Pasta");
 }
 
 TEST_F(DataGridTest, ShowsItsColumnsWithNumbersAtTheRight)

@@ -73,4 +73,15 @@ TEST_F(EtichettaComandoTest, ALongTextDoesNotWidenItsWindow)
     EXPECT_GT(label.sizeHint().width(), 1000);
 }
 
+TEST_F(EtichettaComandoTest, ThePointerShowsACutTextAndAsksForTheDoubleClick)
+{
+    EXPECT_EQ(label.suggerimento(), "");
+    label.setProperty("aDoppioClic", true);
+    EXPECT_EQ(label.suggerimento(), "Si esegue con un doppio clic");
+    label.setText("  Cancella Gruppo Colazione del mattino");
+    label.setToolTip("Tabella PIATTI");
+    EXPECT_EQ(label.suggerimento(),
+              "Cancella Gruppo Colazione del mattino\nTabella PIATTI\nSi esegue con un doppio clic");
+}
+
 } // namespace

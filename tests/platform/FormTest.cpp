@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QtTest/QTest>
@@ -95,6 +96,14 @@ TEST_F(FormTest, ModalShowingLoadsResizesOnceAndReturnsAtUnload)
     form.showModal();
     EXPECT_EQ(Probe::events, QStringList({"load", "resize", "unload"}));
     EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(FormTest, MarksInALabelAreNoMarkup)
+{
+    Probe form(host);
+    auto *label = new QLabel("<b>Ondira</b>", form.centralWidget());
+    form.showModeless();
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
 }
 
 TEST_F(FormTest, ModalShowingReturnsAtHideAndALaterShowDoesNotLoadAgain)

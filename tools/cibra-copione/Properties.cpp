@@ -1,6 +1,8 @@
 #include "Properties.h"
 
 #include "Grids.h"
+#include "platform/ui/EtichettaNome.h"
+#include "platform/ui/Scritte.h"
 #include "platform/ui/StatusPanels.h"
 
 #include <QAbstractButton>
@@ -44,12 +46,14 @@ Answer textOf(const Target &target)
         return edit->text();
     if (const auto *combo = qobject_cast<QComboBox *>(widget))
         return combo->currentText();
+    if (const auto *name = qobject_cast<EtichettaNome *>(widget))
+        return name->scritta();
     if (const auto *label = qobject_cast<QLabel *>(widget))
-        return label->text();
+        return label->buddy() ? Scritte::comeSiLegge(label->text()) : label->text();
     if (const auto *button = qobject_cast<QAbstractButton *>(widget))
-        return button->text();
+        return Scritte::comeSiLegge(button->text());
     if (const auto *group = qobject_cast<QGroupBox *>(widget))
-        return group->title();
+        return Scritte::comeSiLegge(group->title());
     if (const auto *edit = qobject_cast<QPlainTextEdit *>(widget))
         return edit->toPlainText();
     if (const auto *edit = qobject_cast<QTextEdit *>(widget))

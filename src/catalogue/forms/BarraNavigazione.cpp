@@ -1,13 +1,14 @@
 #include "catalogue/forms/BarraNavigazione.h"
 
+#include "catalogue/forms/Icone.h"
+
 #include <QAbstractButton>
-#include <QStyle>
 
 namespace {
 
-void dress(QAbstractButton *button, QStyle::StandardPixmap arrow, const QString &hint)
+void dress(QAbstractButton *button, const QString &arrow, const QString &hint)
 {
-    button->setIcon(button->style()->standardIcon(arrow));
+    button->setIcon(Icone::icona(arrow));
     button->setToolTip(hint);
     button->setAccessibleName(hint);
 }
@@ -17,8 +18,8 @@ void dress(QAbstractButton *button, QStyle::StandardPixmap arrow, const QString 
 void VestiNavigazione(QAbstractButton *cmdFirst, QAbstractButton *cmdPrevious, QAbstractButton *cmdNext,
                       QAbstractButton *cmdLast)
 {
-    dress(cmdFirst, QStyle::SP_MediaSkipBackward, "Va all'inizio del RecordSet");
-    dress(cmdPrevious, QStyle::SP_MediaSeekBackward, "Va Indietro di un Record");
-    dress(cmdNext, QStyle::SP_MediaSeekForward, "Va avanti di un Record");
-    dress(cmdLast, QStyle::SP_MediaSkipForward, "Va all'ultimo record del RecordSet");
+    dress(cmdFirst, "primo", "Va all'inizio del RecordSet");
+    dress(cmdPrevious, "precedente", "Va Indietro di un Record");
+    dress(cmdNext, "successivo", "Va avanti di un Record");
+    dress(cmdLast, "ultimo", "Va all'ultimo record del RecordSet");
 }

@@ -11,6 +11,7 @@
 #include "platform/ui/AvvisoUscita.h"
 #include "platform/ui/CampoLegato.h"
 #include "platform/ui/ControlArray.h"
+#include "platform/ui/EtichettaNome.h"
 #include "platform/ui/Tema.h"
 #include "ui_FrmMenu.h"
 
@@ -70,6 +71,7 @@ void FrmMenu::dress()
     VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
     m_ui->Campi->setBackgroundRole(QPalette::Base);
     m_ui->Campi->setAutoFillBackground(true);
+    m_ui->Label1->setMinimumWidth(m_ui->Label1->sizeHint().width()); // its other text is shorter: nothing jumps
     m_ui->Combo1->hide();
     m_ui->Combo2->setCompleter(nullptr);
     m_ui->Combo2->hide();
@@ -192,10 +194,10 @@ void FrmMenu::setPersonCaptions()
         for (const char *caption : {"Quant. ", "KCal. ", "Tot. "})
             m_ui->TDBGrid1->setCaption(column++, caption + person.name);
         for (const auto &[index, caption] : person.captions) {
-            auto *label = findChild<QLabel *>("LbCampo_" + QString::number(index));
+            auto *label = findChild<EtichettaNome *>("LbCampo_" + QString::number(index));
             Tema::colourCaption(label, person.colour);
             if (!person.name.isEmpty())
-                label->setText(caption + person.name);
+                label->setScritta(caption + person.name);
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "catalogue/forms/InserimentoKCal.h"
 
 #include "catalogue/forms/Icone.h"
+#include "platform/ui/Scritte.h"
 #include "ui_InserimentoKCal.h"
 
 InserimentoKCal::InserimentoKCal(FormHost &host, ModNetServer &modulo)
@@ -22,24 +23,24 @@ void InserimentoKCal::setDomanda(const QString &domanda)
 void InserimentoKCal::Form_Load()
 {
     m_modulo.mondo.schermo.beep();
-    m_ui->Command1->setText(m_modulo.NomePrimaPersona);
-    m_ui->Command2->setText(m_modulo.NomeSecondaPersona);
+    m_ui->Command1->setText(Scritte::senzaTasto(m_modulo.NomePrimaPersona));
+    m_ui->Command2->setText(Scritte::senzaTasto(m_modulo.NomeSecondaPersona));
     m_modulo.NomeScelto.clear();
 }
 
 void InserimentoKCal::Command1_Click()
 {
-    scegli(m_ui->Command1);
+    scegli(m_modulo.NomePrimaPersona);
 }
 
 void InserimentoKCal::Command2_Click()
 {
-    scegli(m_ui->Command2);
+    scegli(m_modulo.NomeSecondaPersona);
 }
 
-void InserimentoKCal::scegli(const QPushButton *person)
+void InserimentoKCal::scegli(const QString &person)
 {
-    m_modulo.NomeScelto = person->text();
+    m_modulo.NomeScelto = person;
     unload();
 }
 

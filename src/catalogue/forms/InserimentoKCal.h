@@ -7,7 +7,6 @@
 
 #include <memory>
 
-class QPushButton;
 namespace Ui {
 class InserimentoKCal;
 }
@@ -29,7 +28,7 @@ protected:
 private:
     void Command1_Click();
     void Command2_Click();
-    void scegli(const QPushButton *person);
+    void scegli(const QString &person);
 
     std::unique_ptr<Ui::InserimentoKCal> m_ui;
     ModNetServer &m_modulo;

@@ -46,9 +46,9 @@ void Sostituti::dress()
 {
     setWindowIcon(Icone::icona("gruppo"));
     VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
-    for (QLabel *label : {m_ui->LbTotale1, m_ui->Label5})
+    for (QLabel *label : std::initializer_list<QLabel *>{m_ui->LbTotale1, m_ui->Label5})
         Tema::colourCaption(label, Tema::firstPerson());
-    for (QLabel *label : {m_ui->LbTotale2, m_ui->Label7})
+    for (QLabel *label : std::initializer_list<QLabel *>{m_ui->LbTotale2, m_ui->Label7})
         Tema::colourCaption(label, Tema::secondPerson());
     m_ui->Label6->hide();
     m_ui->Frame2->hide();
@@ -145,8 +145,8 @@ void Sostituti::setPersonCaptions()
     m_ui->TDBGrid1->setCaption(2, "KCal " + second);
     m_ui->TDBGrid2->setCaption(2, "Totale " + first);
     m_ui->TDBGrid2->setCaption(3, "Totale " + second);
-    m_ui->LbTotale1->setText("Totale KCal " + first);
-    m_ui->LbTotale2->setText("Totale KCal " + second);
+    m_ui->LbTotale1->setScritta("Totale KCal " + first);
+    m_ui->LbTotale2->setScritta("Totale KCal " + second);
 }
 
 // Every move copies the alternative; a passage by the ends, where there is no row, is none.

@@ -12,6 +12,7 @@
 #include "platform/text/Numbers.h"
 #include "platform/ui/ControlArray.h"
 #include "platform/ui/FormRegistry.h"
+#include "platform/ui/Scritte.h"
 #include "platform/ui/Tema.h"
 #include "ui_GeneraMenu.h"
 
@@ -120,6 +121,8 @@ void GeneraMenu::linkGroup(const std::vector<QCheckBox *> &boxes)
 
 void GeneraMenu::Form_Load()
 {
+    m_ui->Frame4->ensurePolished();
+    m_ui->Frame3->setMinimumHeight(m_ui->Frame4->sizeHint().height()); // the card lies over the panel
     loadHousehold();
     showHousehold();
     m_ui->Text5->setFocus();
@@ -165,8 +168,11 @@ void GeneraMenu::Form_KeyPress(int character)
 void GeneraMenu::showPanel(QWidget *panel, QWidget *firstBox)
 {
     const bool alreadyShown = !panel->isHidden();
+    // One panel goes before the other comes: room for two would make the window grow.
     for (QWidget *other : {m_ui->Frame1, m_ui->Frame2, m_ui->Frame3})
-        other->setVisible(other == panel);
+        if (other != panel)
+            other->hide();
+    panel->show();
     if (!alreadyShown)
         firstBox->setFocus();
 }
@@ -334,7 +340,8 @@ void GeneraMenu::DateGenerazione_Change()
     m_CopiaDate = true;
     setIfDifferent(m_ui->Text3, m_ui->Text1->text());
     setIfDifferent(m_ui->Text4, m_ui->Text2->text());
-    m_ui->Command2->setText("Cancella Blocco " + m_ui->Text1->text() + " al " + m_ui->Text2->text());
+    m_ui->Command2->setText(
+        Scritte::senzaTasto("Cancella Blocco " + m_ui->Text1->text() + " al " + m_ui->Text2->text()));
     m_CopiaDate = false;
 }
 

@@ -16,20 +16,11 @@ namespace {
 
 constexpr int kMeasuredRows = 60; // enough to find good widths, whatever the length of the set
 constexpr int kWidest = 320;      // pixels; longer texts are elided
-constexpr int kNarrowest = 120;   // of a text column that makes room for the others
-constexpr int kCellPadding = 10;
-
-// The width of a caption broken into two lines where that makes it narrowest.
-int foldedWidth(const QString &caption, const QFontMetrics &metrics)
-{
-    int narrowest = metrics.horizontalAdvance(caption);
-    for (int i = 1; i < caption.size() - 1; ++i) {
-        if (caption[i] == ' ')
-            narrowest = std::min(narrowest, std::max(metrics.horizontalAdvance(caption.left(i)),
-                                                     metrics.horizontalAdvance(caption.mid(i + 1))));
-    }
-    return narrowest;
-}
+constexpr int kNarrowest = 100;   // of a text column that makes room for the others
+constexpr int kRowPadding = 10;   // over and under the text of a row
+// Captions of numbers give way to the names of dishes and foods: first down to the one width, at last to the other.
+constexpr int kCaptionGivesFirst = 108;
+constexpr int kCaptionGivesLast = 74;
 
 } // namespace
 
@@ -67,7 +58,7 @@ DataGrid::DataGrid(QWidget *parent) : QTableView(parent), m_private(std::make_un
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowPadding);
     horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
         if (!m_private->fitting)
@@ -282,17 +273,6 @@ void DataGrid::afterFailure(const Failure &failure)
     followRecordset();
 }
 
-// The theme's captions are bolder than the header's own font.
-int DataGrid::captionWidth(int column) const
-{
-    QFont bold = horizontalHeader()->font();
-    bold.setWeight(QFont::DemiBold);
-    const QFontMetrics metrics(bold);
-    const QString caption = model()->headerData(column, Qt::Horizontal).toString();
-    return horizontalHeader()->sectionSizeHint(column) - metrics.horizontalAdvance(caption) +
-           foldedWidth(caption, metrics);
-}
-
 // Widths are found once for a set of columns, from the first rows; a new set of the same columns keeps them.
 void DataGrid::fitColumns()
 {
@@ -306,8 +286,8 @@ void DataGrid::fitColumns()
     {
         const QScopedValueRollback fitting(m_private->fitting, true);
         for (int column = 0; column < model()->columnCount(); ++column) {
-            const int wanted = std::max(sizeHintForColumn(column), captionWidth(column));
-            setColumnWidth(column, std::min(wanted + kCellPadding, kWidest));
+            const int wanted = std::max(sizeHintForColumn(column), m_private->header->captionWidth(column));
+            setColumnWidth(column, std::min(wanted, kWidest));
         }
     }
     if (model()->rowCount() > 0)
@@ -315,39 +295,70 @@ void DataGrid::fitColumns()
     fillWidth();
 }
 
-// What is left of the width goes to the text columns, in equal parts; what is missing comes from the widest of them.
+// What is left of the width goes to the text columns, in equal parts.
 void DataGrid::fillWidth()
 {
-    const std::vector<int> texts = textColumns();
     const int left = viewport()->width() - horizontalHeader()->length();
-    if (m_private->sizedByUser || texts.empty())
+    if (m_private->sizedByUser)
         return;
     const QScopedValueRollback fitting(m_private->fitting, true);
-    int spare = 0; // what the texts could give; where that is too little, the grid scrolls and they keep their width
-    for (const int column : texts)
-        spare += std::max(columnWidth(column) - kNarrowest, 0);
-    if (left < 0 && spare >= -left)
-        squeezeTexts(texts, -left);
+    if (left < 0) {
+        makeRoom(-left);
+        return;
+    }
+    const std::vector<int> texts = textColumns();
     const int count = int(texts.size());
-    for (int i = 0; left > 0 && i < count; ++i)
+    for (int i = 0; i < count; ++i)
         setColumnWidth(texts[std::size_t(i)], columnWidth(texts[std::size_t(i)]) + left / count + (i < left % count));
 }
 
-// Takes `excess` pixels off, each from the column that is the widest then.
-void DataGrid::squeezeTexts(const std::vector<int> &texts, int excess)
+// What is missing comes from the captions of numbers and from the texts. Where that is too little, the grid scrolls and
+// all keep their width.
+void DataGrid::makeRoom(int excess)
 {
-    std::map<int, int> widths;
-    for (const int column : texts)
-        widths[column] = columnWidth(column);
-    const auto narrower = [](const auto &a, const auto &b) { return a.second < b.second; };
-    for (; excess > 0; --excess) {
-        const auto widest = std::max_element(widths.begin(), widths.end(), narrower);
-        if (widest->second <= kNarrowest)
-            break;
-        --widest->second;
+    std::map<int, int> captionsFirst, captionsLast, texts; // the narrowest width of each column that can give
+    for (const int column : textColumns())
+        texts[column] = std::max(kNarrowest, m_private->header->captionWidth(column));
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        if (isColumnHidden(column) || !m_private->model->isNumber(column))
+            continue;
+        const int content = sizeHintForColumn(column);
+        captionsFirst[column] = std::max(content, kCaptionGivesFirst);
+        captionsLast[column] = std::max(content, kCaptionGivesLast);
     }
-    for (const auto &[column, width] : widths)
+    if (spareOf(texts) + spareOf(captionsLast) < excess)
+        return;
+    for (const auto *narrowest : {&captionsFirst, &texts, &captionsLast})
+        excess = squeeze(*narrowest, excess);
+}
+
+int DataGrid::spareOf(const std::map<int, int> &narrowest) const
+{
+    int spare = 0;
+    for (const auto &[column, width] : narrowest)
+        spare += std::max(columnWidth(column) - width, 0);
+    return spare;
+}
+
+// Takes up to `excess` pixels off, each from the column that is the widest then, and gives how many are left.
+int DataGrid::squeeze(const std::map<int, int> &narrowest, int excess)
+{
+    std::map<int, int> giving;
+    for (const auto &[column, width] : narrowest) {
+        if (columnWidth(column) > width)
+            giving[column] = columnWidth(column);
+    }
+    std::map<int, int> found = giving;
+    const auto narrower = [](const auto &a, const auto &b) { return a.second < b.second; };
+    for (; excess > 0 && !giving.empty(); --excess) {
+        const auto widest = std::max_element(giving.begin(), giving.end(), narrower);
+        found[widest->first] = --widest->second;
+        if (widest->second <= narrowest.at(widest->first))
+            giving.erase(widest);
+    }
+    for (const auto &[column, width] : found)
         setColumnWidth(column, width);
+    return excess;
 }
 
 std::vector<int> DataGrid::textColumns() const

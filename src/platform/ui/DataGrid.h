@@ -11,6 +11,7 @@
 
 #include <QTableView>
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -63,9 +64,10 @@ private:
     void tell(const Failure &failure);
     void afterFailure(const Failure &failure);
     void fitColumns();
-    int captionWidth(int column) const;
     void fillWidth();
-    void squeezeTexts(const std::vector<int> &texts, int excess);
+    void makeRoom(int excess);
+    int spareOf(const std::map<int, int> &narrowest) const;
+    int squeeze(const std::map<int, int> &narrowest, int excess);
     std::vector<int> textColumns() const;
     FormHost *host() const;
 

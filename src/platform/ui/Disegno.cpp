@@ -1,7 +1,10 @@
 #include "platform/ui/Disegno.h"
 
+#include <QApplication>
+#include <QFile>
 #include <QIcon>
 #include <QPainter>
+#include <QPalette>
 #include <QSvgRenderer>
 
 // The drawings are part of a static library, which nobody initialises by itself. Outside any namespace, as Qt asks.
@@ -9,6 +12,25 @@ static void initResources()
 {
     Q_INIT_RESOURCE(platform);
 }
+
+namespace {
+
+constexpr char kLine[] = "#6b5c4d";       // of the small drawings
+constexpr char kLineOnDark[] = "#c4b6a6"; // where the desktop is dark
+
+QByteArray smallDrawing(const QString &file)
+{
+    QFile svg(file);
+    if (!svg.open(QIODevice::ReadOnly))
+        return {};
+    QByteArray text = svg.readAll();
+    const QPalette palette = QApplication::palette();
+    if (palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness())
+        text.replace(kLine, kLineOnDark);
+    return text;
+}
+
+} // namespace
 
 Disegno::Disegno(QWidget *parent) : QWidget(parent), m_renderer(new QSvgRenderer(this)) {}
 
@@ -28,7 +50,7 @@ QSize Disegno::sizeHint() const
 QIcon Disegno::icon(const QString &file)
 {
     initResources();
-    QSvgRenderer renderer(file);
+    QSvgRenderer renderer(smallDrawing(file));
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
         QPixmap pixmap(size, size);

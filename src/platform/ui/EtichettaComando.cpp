@@ -1,11 +1,14 @@
 #include "platform/ui/EtichettaComando.h"
 
+#include "platform/ui/Scritte.h"
 #include "platform/ui/Tema.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QToolTip>
 
 namespace {
 
@@ -36,6 +39,36 @@ QSize EtichettaComando::sizeHint() const
 QSize EtichettaComando::minimumSizeHint() const
 {
     return {qMin(kNarrowest, sizeHint().width()), sizeHint().height()};
+}
+
+QRect EtichettaComando::textPlace() const
+{
+    return rect().adjusted(kSide, 0, -kSide, 0);
+}
+
+QString EtichettaComando::shownText() const
+{
+    return fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, textPlace().width());
+}
+
+QString EtichettaComando::suggerimento() const
+{
+    QStringList lines;
+    if (shownText() != text().trimmed())
+        lines << text().trimmed();
+    if (!toolTip().isEmpty())
+        lines << toolTip();
+    if (m_aDoppioClic)
+        lines << QStringLiteral("Si esegue con un doppio clic");
+    return lines.join('\n');
+}
+
+bool EtichettaComando::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), Scritte::suggerimento(suggerimento()), this);
+    return true;
 }
 
 void EtichettaComando::enterEvent(QEnterEvent *event)
@@ -123,8 +156,6 @@ void EtichettaComando::paintEvent(QPaintEvent *)
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRound, kRound);
 
-    const QRect place = rect().adjusted(kSide, 0, -kSide, 0);
     painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, foregroundRole()));
-    painter.drawText(place, int(alignment()) | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, place.width()));
+    painter.drawText(textPlace(), int(alignment()) | Qt::TextSingleLine, shownText());
 }

@@ -1,4 +1,5 @@
-// A label that is worked like a button: with the mouse, and with Enter or Space once the focus stands on it.
+// A label that is worked like a button: with the mouse, and with Enter or Space once the focus stands on it. The
+// pointer shows the text where it is cut, and tells where a double click is wanted.
 #pragma once
 
 #include <QLabel>
@@ -14,12 +15,14 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override; // narrower than a long text, which is then shown elided
+    QString suggerimento() const;           // what the pointer shows; empty where there is nothing to say
 
 signals:
     void clicked();       // once for a double click, as for its first half
     void doubleClicked(); // after the click that begins it
 
 protected:
+    bool event(QEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -32,6 +35,8 @@ protected:
 
 private:
     void setPressed(bool pressed);
+    QString shownText() const;
+    QRect textPlace() const;
 
     bool m_aDoppioClic = false;
     bool m_pressed = false;

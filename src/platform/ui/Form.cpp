@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QGroupBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPushButton>
 #include <QWindow>
 
@@ -156,11 +157,20 @@ void Form::setVisible(bool visible)
     if (visible && m_unloading)
         return;
     const Busy busy(*this);
+    if (visible && !m_shown)
+        takeMarksAsText();
     QMainWindow::setVisible(visible);
     if (visible && !m_shown) {
         m_shown = true;
         runResize();
     }
+}
+
+// Names, dishes and paths are shown letter by letter: a "<b>" in them is no markup.
+void Form::takeMarksAsText()
+{
+    for (QLabel *label : findChildren<QLabel *>())
+        label->setTextFormat(Qt::PlainText);
 }
 
 void Form::deleteWhenIdle()

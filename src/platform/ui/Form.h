@@ -94,6 +94,7 @@ private:
     class Busy;
     class KeyPreview;
 
+    void takeMarksAsText();
     void runResize();
     void deleteIfIdle();
     bool previewKey(QKeyEvent *key);

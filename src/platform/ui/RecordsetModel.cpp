@@ -1,5 +1,7 @@
 #include "platform/ui/RecordsetModel.h"
 
+#include "platform/ui/Scritte.h"
+
 RecordsetModel::RecordsetModel(QObject *parent) : QAbstractTableModel(parent) {}
 
 void RecordsetModel::setColumns(std::vector<GridColumn> columns)
@@ -133,9 +135,9 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::ToolTipRole: // a long name may be cut
-        if (isNumber(index.column()))
+        if (isNumber(index.column()) || isYesNo(index.column()))
             return {};
-        [[fallthrough]];
+        return Scritte::suggerimento(shownText(index.row(), index.column()));
     case Qt::DisplayRole:
     case Qt::EditRole:
         if (isYesNo(index.column()))

@@ -1,5 +1,7 @@
 #include "platform/ui/StatusPanels.h"
 
+#include "platform/ui/Scritte.h"
+
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -66,7 +68,7 @@ private:
     void updateToolTip()
     {
         const bool cut = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-        setToolTip(!m_ownToolTip.isEmpty() ? m_ownToolTip : cut ? text() : QString());
+        setToolTip(!m_ownToolTip.isEmpty() ? m_ownToolTip : cut ? Scritte::suggerimento(text()) : QString());
     }
 
     StatusPanels *m_bar;

@@ -1,32 +1,33 @@
 #include "platform/ui/Tema.h"
 
+#include "platform/ui/Stile.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QPalette>
 #include <QString>
-#include <QStyleFactory>
 #include <QWidget>
 
 namespace {
 
 struct Colours
 {
-    QColor ground, paper, stripe, text, faint, line, accent, accentText, link, first, second;
+    QColor ground, paper, stripe, text, faint, line, accent, accentText, link, first, second, edge;
 };
 
 const Colours &light()
 {
     static const Colours colours{QColor(0xF6F1EA), QColor(0xFFFDFA), QColor(0xFAF4EC), QColor(0x33302C),
                                  QColor(0x6B655D), QColor(0xD9CFC2), QColor(0xE8852B), QColor(0x140A00),
-                                 QColor(0x7A3A00), QColor(0x0F5A54), QColor(0x6A3478)};
+                                 QColor(0x7A3A00), QColor(0x0F5A54), QColor(0x6A3478), QColor()};
     return colours;
 }
 
 const Colours &dark()
 {
-    static const Colours colours{QColor(0x26221E), QColor(0x2E2A25), QColor(0x35302A), QColor(0xF0EAE2),
-                                 QColor(0xA79F95), QColor(0x4A433B), QColor(0xE8852B), QColor(0x120900),
-                                 QColor(0xF4AE6C), QColor(0x7FD3CB), QColor(0xD9A8E6)};
+    static const Colours colours{QColor(0x26221E), QColor(0x322D28), QColor(0x3A352F), QColor(0xF0EAE2),
+                                 QColor(0xA79F95), QColor(0x544C43), QColor(0xE8852B), QColor(0x120900),
+                                 QColor(0xF4AE6C), QColor(0x7FD3CB), QColor(0xD9A8E6), QColor(0x857A6D)};
     return colours;
 }
 
@@ -68,7 +69,7 @@ QDialogButtonBox, QMessageBox { button-layout: 0; }
 QToolTip { color: %2; background: %3; border: 1px solid %4; padding: 4px; }
 QStatusBar { border-top: 1px solid %4; }
 QStatusBar::item { border: none; }
-QHeaderView::section { background: %1; color: %2; border: none; border-bottom: 2px solid %5; padding: 5px 3px;
+QHeaderView::section { background: %1; color: %2; border: none; border-bottom: 2px solid %5; padding: 5px 6px;
                        font-weight: 600; }
 QTableView { border: 1px solid %4; gridline-color: %4; }
 QGroupBox { border: 1px solid %4; border-radius: 6px; margin-top: 12px; padding-top: 8px; }
@@ -91,7 +92,7 @@ bool desktopIsDark()
 void Tema::apply(QApplication &application)
 {
     s_current = desktopIsDark() ? &dark() : &light();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Stile(s_current->edge)); // the application takes it
     QApplication::setPalette(paletteOf(*s_current));
     QFont font = QApplication::font();
     font.setPointSizeF(11);

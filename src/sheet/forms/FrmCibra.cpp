@@ -3,6 +3,8 @@
 #include "catalogue/forms/BarraNavigazione.h"
 #include "catalogue/forms/Icone.h"
 #include "platform/text/Dates.h"
+#include "platform/ui/Disegno.h"
+#include "platform/ui/Scritte.h"
 #include "platform/ui/StatusPanels.h"
 #include "platform/ui/Tema.h"
 #include "sheet/ElencoPiatti.h"
@@ -115,6 +117,8 @@ void FrmCibra::dress()
         Tema::colourCaption(caption, Tema::secondPerson());
     VestiNavigazione(m_ui->cmdFirst, m_ui->cmdPrevious, m_ui->cmdNext, m_ui->cmdLast);
     m_ui->ImgMarvo->setIcon(Icone::icona("note"));
+    m_ui->Command2->setIcon(Disegno::icon(":/sheet/icons/stampa-html.svg"));
+    m_ui->Command14->setIcon(Disegno::icon(":/sheet/icons/stampa-testo.svg"));
     for (const int grey : kCaselleGrigie)
         colourGrey(campi().at(grey)->box());
     m_ui->MnuNascosto->menuAction()->setVisible(false);
@@ -228,16 +232,16 @@ void FrmCibra::bindDays()
 
 void FrmCibra::setTargets()
 {
-    m_ui->Command5->setText("Sincronizza  a " + modulo().KcalSecondaPersona);
-    m_ui->Command6->setText("Sincronizza  a " + modulo().KcalPrimaPersona);
-    m_ui->LbTraguardoPrima->setText("su " + modulo().KcalPrimaPersona);
-    m_ui->LbTraguardoSeconda->setText("su " + modulo().KcalSecondaPersona);
-    m_ui->LbLabel_9->setText("KCal " + modulo().NomePrimaPersona);
-    m_ui->LbLabel_11->setText("Quantità " + modulo().NomePrimaPersona);
-    m_ui->LbLabel_13->setText("Totale " + modulo().NomePrimaPersona);
-    m_ui->LbLabel_10->setText("KCal " + modulo().NomeSecondaPersona);
-    m_ui->LbLabel_12->setText("Quantità " + modulo().NomeSecondaPersona);
-    m_ui->LbLabel_14->setText("Totale " + modulo().NomeSecondaPersona);
+    m_ui->Command5->setText("Sincronizza  a " + Scritte::senzaTasto(modulo().KcalSecondaPersona));
+    m_ui->Command6->setText("Sincronizza  a " + Scritte::senzaTasto(modulo().KcalPrimaPersona));
+    m_ui->LbTraguardoPrima->setScritta("su " + modulo().KcalPrimaPersona);
+    m_ui->LbTraguardoSeconda->setScritta("su " + modulo().KcalSecondaPersona);
+    m_ui->LbLabel_9->setScritta("KCal " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_11->setScritta("Quantità " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_13->setScritta("Totale " + modulo().NomePrimaPersona);
+    m_ui->LbLabel_10->setScritta("KCal " + modulo().NomeSecondaPersona);
+    m_ui->LbLabel_12->setScritta("Quantità " + modulo().NomeSecondaPersona);
+    m_ui->LbLabel_14->setScritta("Totale " + modulo().NomeSecondaPersona);
 }
 
 // Every resize shows the day afresh, from its first row; what was typed into a box is stored before. The position line
@@ -284,8 +288,8 @@ void FrmCibra::setPersonCaptions()
                 grid->setCaption(column, caption + person);
             ++column;
         }
-    m_ui->Label1->setText("Totale Kcal " + modulo().NomePrimaPersona);
-    m_ui->Label2->setText("Totale Kcal " + modulo().NomeSecondaPersona);
+    m_ui->Label1->setScritta("Totale Kcal " + modulo().NomePrimaPersona);
+    m_ui->Label2->setScritta("Totale Kcal " + modulo().NomeSecondaPersona);
 }
 
 void FrmCibra::CercaSchedaPranzo(const QString &giorno)
