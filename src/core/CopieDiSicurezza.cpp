@@ -18,6 +18,7 @@ namespace {
 
 constexpr qsizetype kCopie = 10;
 const QString kMarcatore = QStringLiteral("\\Copie.no");
+constexpr int kLockAge = 600000; // milliseconds after which a lock is of a program that is gone, wherever it ran
 const QString kMomento = QStringLiteral("yyyy-MM-dd_HH-mm-ss-zzz");
 constexpr qsizetype kSecondo = 19; // characters of a name up to its second
 
@@ -25,7 +26,7 @@ constexpr qsizetype kSecondo = 19; // characters of a name up to its second
 QString nomePulito(const QString &archivio)
 {
     static const QRegularExpression refused(QStringLiteral(R"([<>:"/\\|?*\x00-\x1f]|[. ]$)"));
-    return QFileInfo(archivio).fileName().replace(refused, QStringLiteral("_"));
+    return QFileInfo(throughLinks(archivio)).fileName().replace(refused, QStringLiteral("_"));
 }
 
 QString nomeAl(const QDateTime &momento, const QString &archivio)
@@ -111,31 +112,22 @@ bool eCopiaDi(const QFileInfo &copia, const QFileInfo &archivio)
 // What is still in the journal stands in no copy so far.
 bool giaCopiato(const QString &archivio)
 {
-    if (QFileInfo(archivio + kWriteAheadLog).size() > 0)
+    if (hasJournal(archivio))
         return false;
-    const QFileInfo file(archivio);
+    const QFileInfo file(throughLinks(archivio));
     const QStringList copies = CopieDi(archivio);
     return std::any_of(copies.begin(), copies.end(),
                        [&](const QString &copy) { return eCopiaDi(QFileInfo(copy), file); });
 }
 
-// The copy just made stays also where a clock set back makes it look old.
+// A copy that is named later than the one just made was made before it, by a clock that was wrong.
 void sfoltisci(const QString &archivio, const QString &nuova)
 {
     QStringList others = CopieDi(archivio);
-    others.removeAll(nuova);
+    const qsizetype place = others.indexOf(nuova);
+    others = others.sliced(place + 1) + others.first(place);
     while (others.size() >= kCopie)
         togli(others.takeFirst());
-}
-
-void copiaERuota(ModNetServer &modulo)
-{
-    Connection &archivio = modulo.dati();
-    if (giaCopiato(archivio.path()))
-        return;
-    const QString nuova = FaiCopia(archivio, modulo.mondo.orologio.now());
-    if (!nuova.isEmpty())
-        sfoltisci(archivio.path(), nuova);
 }
 
 void avvisa(ModNetServer &modulo, const Failure &failure)
@@ -150,17 +142,37 @@ void avvisa(ModNetServer &modulo, const Failure &failure)
                                 failure.words()));
 }
 
+void copiaERuota(ModNetServer &modulo)
+{
+    Connection &archivio = modulo.dati();
+    if (giaCopiato(archivio.path()))
+        return;
+    const QString nuova = FaiCopia(archivio, modulo.mondo.orologio.now());
+    if (nuova.isEmpty())
+        avvisa(modulo, Failure(FailureNumber::PathAccess, QStringLiteral("un altro programma ne sta facendo una")));
+    else
+        sfoltisci(archivio.path(), nuova);
+}
+
 } // namespace
 
 QString CartellaCopie(const QString &archivio)
 {
-    return ProgramFolder(QFileInfo(archivio).absolutePath()).resolve(QStringLiteral("Copie"));
+    return ProgramFolder(QFileInfo(throughLinks(archivio)).absolutePath()).resolve(QStringLiteral("Copie"));
 }
 
 QStringList CopieDi(const QString &archivio)
 {
     QStringList paths;
     for (const QString &name : nomiNellaCartella(archivio, QStringLiteral("$")))
+        paths += beside(archivio, name);
+    return paths;
+}
+
+QStringList TenutiComErano(const QString &archivio)
+{
+    QStringList paths;
+    for (const QString &name : nomiNellaCartella(archivio, QStringLiteral("\\.prima(-wal|-journal)?$")))
         paths += beside(archivio, name);
     return paths;
 }
@@ -181,12 +193,12 @@ QString NomeDiCopia(const QString &archivio, const QDateTime &quando)
 
 QString FaiCopia(Connection &archivio, const QDateTime &quando)
 {
-    const QFileInfo file(archivio.path());
+    const QFileInfo file(throughLinks(archivio.path()));
     const QString copy = NomeDiCopia(archivio.path(), quando);
     const QString base = beside(archivio.path(), nomePulito(archivio.path()));
 
     QLockFile alone(base + QStringLiteral(".lock"));
-    alone.setStaleLockTime(0); // a lock is stale when its program is gone, never by its age
+    alone.setStaleLockTime(kLockAge);
     if (!alone.tryLock(0)) {
         if (alone.error() == QLockFile::LockFailedError)
             return {};

@@ -8,10 +8,13 @@
 #include <QString>
 #include <QStringList>
 
-// The folder Copie beside the archive file `archivio`, whether it is there or not.
+// The folder Copie beside the archive file `archivio`, whether it is there or not. Where `archivio` is a link, here and
+// below the file that it leads to is meant.
 QString CartellaCopie(const QString &archivio);
 // The paths of the copies of `archivio`, oldest first.
 QStringList CopieDi(const QString &archivio);
+// The paths of what was kept of `archivio` as it was, before another file took its place: archives and their journals.
+QStringList TenutiComErano(const QString &archivio);
 // The path of a new file in Copie, which is made where it is not there, for something of `archivio` kept at `quando`.
 // It is later than every other of the same second. Throws Failure(PathAccess).
 QString NomeDiCopia(const QString &archivio, const QDateTime &quando);
@@ -22,6 +25,7 @@ QString FaiCopia(Connection &archivio, const QDateTime &quando);
 
 // What the program does at each start and before sheets are deleted. Nothing where the marker Copie.no stands in the
 // program folder, where no archive is open, or where a copy of the archive as it is now is there already. Of more than
-// ten copies the oldest go. A failure is no failure of the caller: it goes to the log and to the background screen,
-// once a run.
+// ten copies the oldest go; those named later than the new one were made by a wrong clock and count as older than all.
+// Where another program is copying, or has left its lock within ten minutes, the log says so once. A failure is no
+// failure of the caller: it goes to the log and to the background screen, once a run.
 void CopiaDiSicurezza(ModNetServer &modulo);

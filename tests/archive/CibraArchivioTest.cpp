@@ -2,6 +2,8 @@
 #include "core/CopieDiSicurezza.h"
 #include "CreaArchivio.h"
 #include "platform/store/Connection.h"
+#include "support/DamagedIndex.h"
+#include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
@@ -233,6 +235,49 @@ TEST_F(CibraArchivioTest, CopiesThatAnybodyCanReadAreNamedWhenTheArchiveIsProtec
               QString("L'archivio \"%1\" è protetto.\nAttenzione: le copie di sicurezza fatte prima non hanno "
                       "password e si leggono ancora: 2 in \"%2/Copie\".\n")
                   .arg(path, folder.path()));
+}
+
+TEST_F(CibraArchivioTest, AnArchiveInUseIsStatusFour)
+{
+    creaArchivioNuovo(path);
+    const OtherProgram other(path);
+    const QStringList checks[] = {{"verifica", path}, {"verifica", "--ripara", path}};
+    for (const QStringList &command : checks) {
+        const Result refused = archivio(command);
+        EXPECT_EQ(refused.status, 4);
+        EXPECT_EQ(refused.out,
+                  QString("L'archivio \"%1\" è in uso da un altro programma: riprovare quando è chiuso\n").arg(path));
+    }
+    EXPECT_TRUE(archivio({"--help"}).out.endsWith("\n4 l'archivio da verificare è in uso da un altro programma.\n"));
+}
+
+TEST_F(CibraArchivioTest, ARepairSaysWhereTheDamagedArchiveIs)
+{
+    creaArchivioEsempio(path, QDate(2025, 3, 1));
+    damageIndex(path, "MenuGiorno");
+    EXPECT_TRUE(archivio({"verifica", path})
+                    .out.endsWith("\nSono rovinati solo gli indici: verifica --ripara li "
+                                  "rifà\n"));
+    const Result done = archivio({"verifica", "--ripara", path});
+    EXPECT_EQ(done.status, 0);
+    const QStringList kept = TenutiComErano(path);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(done.out, QString("Gli indici sono rifatti. Quello di prima è in \"%1\".\nL'archivio \"%2\" è in "
+                                "ordine.\n")
+                            .arg(kept.constFirst(), path));
+}
+
+TEST_F(CibraArchivioTest, APlainCopyInThePlaceOfAProtectedArchiveIsWarnedOf)
+{
+    creaArchivioNuovo(path);
+    const QString copy = folder.path("copia.db");
+    ASSERT_TRUE(QFile::copy(path, copy));
+    ASSERT_EQ(archivio({"proteggi", path}, "segreta\nsegreta\n").status, 0);
+    const Result done = archivio({"ripristina", copy, path});
+    EXPECT_EQ(done.status, 0) << done.err.toStdString();
+    EXPECT_TRUE(done.out.endsWith("\nAttenzione: l'archivio aveva una password, la copia no: adesso chiunque lo può "
+                                  "leggere. proteggi gliene dà una.\n"))
+        << done.out.toStdString();
 }
 
 TEST_F(CibraArchivioTest, ACopyIsPutBackWithThePasswordFromTheInput)

@@ -5,8 +5,10 @@
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "ProteggiArchivio.h"
+#include "support/DamagedIndex.h"
 #include "support/OtherProgram.h"
 #include "support/Printers.h"
+#include "support/SmallDisk.h"
 #include "support/TemporaryFolder.h"
 #include "support/TestArchive.h"
 #include "VerificaArchivio.h"
@@ -70,10 +72,10 @@ protected:
 
 TEST_F(RipristinaArchivioTest, TheCopyTakesThePlaceOfTheArchiveWhichIsKeptAsACopyFirst)
 {
-    const QString kept = ripristinaArchivio(copia, path, {}, kNow);
+    const QString kept = ripristinaArchivio(copia, path, {}, kNow).tenuto;
     EXPECT_EQ(clientsOf(path), QStringList("di allora"));
     EXPECT_EQ(verificaArchivio(path).guasti, QStringList());
-    EXPECT_EQ(kept, folder.path() + "/Copie/2025-03-02_10-20-30-001_famiglia.db");
+    EXPECT_EQ(kept, folder.path() + "/Copie/2025-03-02_10-20-30-000_famiglia.db");
     EXPECT_EQ(CopieDi(path), QStringList(kept));
     EXPECT_EQ(clientsOf(kept), QStringList("di adesso"));
     EXPECT_EQ(clientsOf(copia), QStringList("di allora"));
@@ -98,7 +100,7 @@ TEST_F(RipristinaArchivioTest, AlsoTheOldestOfTenCopiesIsPutBackAndStays)
 TEST_F(RipristinaArchivioTest, AnArchiveThatIsGoneComesBack)
 {
     QFile::remove(path);
-    EXPECT_EQ(ripristinaArchivio(copia, path, {}, kNow), "");
+    EXPECT_EQ(ripristinaArchivio(copia, path, {}, kNow).tenuto, "");
     EXPECT_EQ(clientsOf(path), QStringList("di allora"));
     EXPECT_FALSE(folder.has("Copie"));
 }
@@ -107,7 +109,7 @@ TEST_F(RipristinaArchivioTest, ADamagedArchiveIsKeptAsItIsWithItsJournal)
 {
     folder.write("famiglia.db", QByteArray("rovina").repeated(1000));
     folder.write("famiglia.db-wal", "giornale");
-    const QString kept = ripristinaArchivio(copia, path, {}, kNow);
+    const QString kept = ripristinaArchivio(copia, path, {}, kNow).tenuto;
     EXPECT_EQ(clientsOf(path), QStringList("di allora"));
     EXPECT_EQ(kept, folder.path() + "/Copie/2025-03-02_10-20-30-000_famiglia.db.prima");
     EXPECT_EQ(folder.read("Copie\\2025-03-02_10-20-30-000_famiglia.db.prima"), QByteArray("rovina").repeated(1000));
@@ -124,7 +126,7 @@ TEST_F(RipristinaArchivioTest, AProtectedCopyIsPutBackWithItsPassword)
     EXPECT_EQ(refusalWith("sbagliata"), "Password non valida");
     EXPECT_EQ(clientsOf(path, "segreta"), QStringList("di adesso"));
 
-    const QString kept = ripristinaArchivio(copia, path, "segreta", kNow);
+    const QString kept = ripristinaArchivio(copia, path, "segreta", kNow).tenuto;
     EXPECT_EQ(clientsOf(path, "segreta"), QStringList("di allora"));
     EXPECT_EQ(clientsOf(kept, "segreta"), QStringList("di adesso"));
     Connection plain;
@@ -135,7 +137,7 @@ TEST_F(RipristinaArchivioTest, AProtectedCopyIsPutBackWithItsPassword)
 TEST_F(RipristinaArchivioTest, AnArchiveUnderAnotherPasswordIsKeptAsItIs)
 {
     make(path, "di adesso", "un'altra");
-    const QString kept = ripristinaArchivio(copia, path, {}, kNow);
+    const QString kept = ripristinaArchivio(copia, path, {}, kNow).tenuto;
     EXPECT_TRUE(kept.endsWith("_famiglia.db.prima"));
     EXPECT_EQ(clientsOf(kept, "un'altra"), QStringList("di adesso"));
     EXPECT_EQ(clientsOf(path), QStringList("di allora"));
@@ -192,6 +194,75 @@ TEST_F(RipristinaArchivioTest, ALinkStaysALinkToTheArchive)
     ripristinaArchivio(copia, link, {}, kNow);
     EXPECT_TRUE(QFileInfo(link).isSymLink());
     EXPECT_EQ(clientsOf(path), QStringList("di allora"));
+}
+
+TEST_F(RipristinaArchivioTest, ALinkThatLeadsNowhereLeadsToTheArchivePutBack)
+{
+    QFile::remove(path);
+    const QString link = folder.path("collegamento.db");
+    ASSERT_TRUE(QFile::link(path, link));
+    EXPECT_EQ(ripristinaArchivio(copia, link, {}, kNow).tenuto, "");
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(clientsOf(path), QStringList("di allora"));
+}
+
+TEST_F(RipristinaArchivioTest, AProtectedCopyTakesThePlaceOfAPlainArchiveAndAPlainOneThatOfAProtected)
+{
+    const QString closed = folder.path("chiusa.db");
+    make(closed, "di allora", "segreta");
+    const Ripristino toClosed = ripristinaArchivio(closed, path, "segreta", kNow);
+    EXPECT_FALSE(toClosed.senzaPiuPassword);
+    EXPECT_EQ(clientsOf(path, "segreta"), QStringList("di allora"));
+    EXPECT_EQ(clientsOf(toClosed.tenuto), QStringList("di adesso"));
+    EXPECT_EQ(toClosed.tenuto, folder.path() + "/Copie/2025-03-02_10-20-30-000_famiglia.db");
+
+    const Ripristino back = ripristinaArchivio(toClosed.tenuto, path, {}, kNow);
+    EXPECT_TRUE(back.senzaPiuPassword);
+    EXPECT_EQ(clientsOf(path), QStringList("di adesso"));
+    EXPECT_EQ(back.tenuto, folder.path() + "/Copie/2025-03-02_10-20-30-001_famiglia.db.prima");
+    EXPECT_EQ(clientsOf(back.tenuto, "segreta"), QStringList("di allora"));
+    EXPECT_FALSE(ripristinaArchivio(copia, path, {}, kNow).senzaPiuPassword);
+}
+
+TEST_F(RipristinaArchivioTest, ACopyWithDamagedIndexesNamesTheRepair)
+{
+    copia = folder.path("esempio.db");
+    creaArchivioEsempio(copia, QDate(2025, 3, 1));
+    damageIndex(copia, "MenuGiorno");
+    const QString words = refusalWith();
+    EXPECT_TRUE(words.startsWith("La copia \"" + copia + "\" è danneggiata: ")) << words.toStdString();
+    EXPECT_TRUE(words.endsWith(". Sono rovinati solo gli indici: verifica --ripara li rifà")) << words.toStdString();
+    riparaArchivio(copia, {}, kNow);
+    EXPECT_EQ(refusalWith(), "(ripristinato)");
+}
+
+TEST_F(RipristinaArchivioTest, AnAttemptWithoutRoomLeavesNothingBehind)
+{
+    const qint64 size = QFileInfo(path).size();
+    folder.makeFolder("stretto");
+    const SmallDisk disk(folder.path("stretto"), size * 5 / 2);
+    if (!disk.isThere())
+        GTEST_SKIP() << "no small disk can be made here";
+    const QString tight = folder.path("stretto") + "/famiglia.db";
+    ASSERT_TRUE(QFile::copy(path, tight));
+    path = tight;
+    EXPECT_TRUE(refusalWith().endsWith(" non si può copiare: non si legge, o il disco è pieno"));
+    EXPECT_EQ(folder.entries("stretto"), QStringList({"Copie/", "famiglia.db"}));
+    EXPECT_EQ(folder.entries("stretto/Copie"), QStringList());
+    EXPECT_EQ(clientsOf(path), QStringList("di adesso"));
+}
+
+TEST_F(RipristinaArchivioTest, WhatTheJournalHeldIsKeptAlsoWhereTheAttemptFailsBehindIt)
+{
+    {
+        const OtherProgram killed(path, {}, "INSERT INTO Clienti (Nominativo) VALUES ('nel giornale')");
+    }
+    QFile::remove(path + "-shm");
+    folder.write("famiglia.db-shm/piena", ""); // a folder cannot be removed as a file
+    EXPECT_EQ(refusalWith(), QString("Il file \"%1-shm\" non si può togliere").arg(path));
+    const QStringList kept = CopieDi(path);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(clientsOf(kept.constFirst()), QStringList({"di adesso", "nel giornale"}));
 }
 
 } // namespace

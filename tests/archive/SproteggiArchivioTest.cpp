@@ -2,6 +2,7 @@
 
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
+#include "platform/store/ArchiveFile.h"
 #include "ProteggiArchivio.h"
 #include "support/OtherProgram.h"
 #include "support/Printers.h"
@@ -13,6 +14,8 @@
 
 #include <QDir>
 #include <QFile>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -83,6 +86,21 @@ TEST_F(SproteggiArchivioTest, AnArchiveThatAnotherProgramHasOpenIsLeftAlone)
     Connection archive;
     ASSERT_TRUE(archive.Open(path, "segreta"));
     EXPECT_EQ(rowsOf(archive, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
+}
+
+TEST_F(SproteggiArchivioTest, NobodyElseReadsThePlainCopyWhileItIsMade)
+{
+    makeArchive(path, scriptSchema(), "segreta");
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::Permissions(0x6644)));
+    const QString copy = folder.path("copia.db");
+    const mode_t before = umask(0);
+    copyEncrypted(path, copy, {}, "segreta");
+    umask(before);
+    EXPECT_EQ(QFile::permissions(copy) & ~QFile::Permissions(0x0f00), QFile::ReadOwner | QFile::WriteOwner);
+    sproteggiArchivio(path, "segreta");
+    EXPECT_EQ(QFile::permissions(path) & ~QFile::Permissions(0x0f00),
+              QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther)
+        << "the rights of the archive are those that it had";
 }
 
 TEST_F(SproteggiArchivioTest, AMissingFileAndADamagedOneAreRefused)

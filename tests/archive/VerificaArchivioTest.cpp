@@ -3,7 +3,9 @@
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
+#include "platform/store/ArchiveLock.h"
 #include "platform/store/Connection.h"
+#include "support/DamagedIndex.h"
 #include "support/OtherProgram.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
@@ -16,6 +18,8 @@
 #include <sqlcipher/sqlite3.h>
 
 namespace {
+
+const QDateTime kNow(QDate(2025, 3, 2), QTime(10, 20, 30));
 
 using ::testing::StartsWith;
 
@@ -189,9 +193,12 @@ TEST_F(RiparaArchivioTest, ADamagedIndexIsToldFromOtherDamage)
 
 TEST_F(RiparaArchivioTest, TheIndexIsMadeAnewAndNoRowIsLost)
 {
-    riparaArchivio(path);
+    const QByteArray before = folder.read("prova.db");
+    const QString kept = riparaArchivio(path, {}, kNow);
     EXPECT_EQ(verifica().esito, Verifica::Esito::InOrdine);
-    EXPECT_EQ(folder.entries(), QStringList("prova.db"));
+    EXPECT_EQ(folder.entries(), QStringList({"Copie/", "prova.db"}));
+    EXPECT_EQ(kept, folder.path() + "/Copie/2025-03-02_10-20-30-000_prova.db.prima");
+    EXPECT_TRUE(folder.read("Copie\\2025-03-02_10-20-30-000_prova.db.prima") == before);
     Connection archive;
     ASSERT_TRUE(archive.Open(path));
     EXPECT_EQ(rowsOf(archive, "SELECT DataMenu FROM Menu WHERE DataMenu >= #3/1/2025# ORDER BY DataMenu"),
@@ -204,7 +211,7 @@ TEST_F(RiparaArchivioTest, AnArchiveInUseIsLeftAlone)
     const OtherProgram other(path);
     const QByteArray before = folder.read("prova.db");
     try {
-        riparaArchivio(path);
+        riparaArchivio(path, {}, kNow);
         ADD_FAILURE() << "it was replaced";
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.words(), QString("L'archivio \"%1\" è aperto da un altro programma").arg(path));
@@ -217,7 +224,7 @@ TEST_F(RiparaArchivioTest, MoreThanAnIndexIsNotMended)
     QByteArray bytes = folder.read("prova.db");
     bytes = bytes.left(bytes.size() - 4096);
     folder.write("prova.db", bytes);
-    EXPECT_THROW(riparaArchivio(path), Failure);
+    EXPECT_THROW(riparaArchivio(path, {}, kNow), Failure);
     EXPECT_TRUE(folder.read("prova.db") == bytes);
     EXPECT_EQ(folder.entries(), QStringList("prova.db"));
 }
@@ -270,6 +277,87 @@ TEST_F(VerificaArchivioTest, AnArchiveLeftInTheMiddleOfItsJournalIsInOrder)
     Connection archive;
     ASSERT_TRUE(archive.Open(left));
     EXPECT_EQ(rowsOf(archive, "SELECT Nominativo FROM Clienti"), QStringList("Tesmo"));
+}
+
+TEST_F(VerificaArchivioTest, AnIndexPageOfZerosOrOfNoiseIsMadeAnewAndEveryRowIsThere)
+{
+    for (const QString &password : {QString(), QString("segreta")})
+        for (const QByteArray &piece : {QByteArray(1, '\0'), QByteArray("rumore")}) {
+            QFile::remove(path);
+            if (folder.has("Copie"))
+                folder.remove("Copie");
+            makeArchive(path, scriptSchema(), password);
+            {
+                Connection archive;
+                ASSERT_TRUE(archive.Open(path, password));
+                for (int day = 1; day <= 28; ++day)
+                    archive.Execute(QString("INSERT INTO Menu (DataMenu) VALUES (#3/%1/2025#)").arg(day));
+            }
+            damageIndex(path, "MenuGiorno", password, piece);
+            ASSERT_EQ(verificaArchivio(path, password).esito, Verifica::Esito::IndiciDaRiparare);
+            riparaArchivio(path, password, kNow);
+            EXPECT_EQ(verificaArchivio(path, password).guasti, QStringList());
+            Connection archive;
+            ASSERT_TRUE(archive.Open(path, password));
+            EXPECT_EQ(countOf(archive, "Menu"), 28);
+            EXPECT_EQ(valueOf(archive, "SELECT Count(*) FROM Menu WHERE DataMenu >= #3/10/2025#"), "19");
+            EXPECT_EQ(valueOf(archive, "SELECT Count(*) FROM sqlite_master WHERE type = 'index'"), "2");
+        }
+}
+
+TEST_F(VerificaArchivioTest, ADamagedTableIsNotMended)
+{
+    creaArchivioEsempio(path, QDate(2025, 3, 1));
+    damageIndex(path, "Piatti"); // the root of the table
+    const QByteArray before = folder.read("prova.db");
+    EXPECT_EQ(verifica().esito, Verifica::Esito::Danneggiato);
+    EXPECT_THROW(riparaArchivio(path, {}, kNow), Failure);
+    EXPECT_TRUE(folder.read("prova.db") == before);
+    EXPECT_EQ(folder.entries(), QStringList("prova.db"));
+}
+
+TEST_F(VerificaArchivioTest, TheCheckLeavesTheJournalOfAKilledProgramAsItIs)
+{
+    creaArchivioNuovo(path);
+    {
+        const OtherProgram killed(path, {}, "INSERT INTO Clienti (Nominativo) VALUES ('Tesmo')");
+    }
+    const QStringList names = folder.entries();
+    ASSERT_TRUE(names.contains("prova.db-wal"));
+    QList<QByteArray> before;
+    for (const QString &name : names)
+        before += folder.read(name);
+    EXPECT_EQ(verifica().guasti, QStringList());
+    EXPECT_EQ(folder.entries(), names);
+    for (qsizetype i = 0; i < names.size(); ++i)
+        EXPECT_TRUE(folder.read(names[i]) == before[i]) << names[i].toStdString();
+}
+
+TEST_F(VerificaArchivioTest, AnArchiveThatAnotherProgramHasOpenIsInUseAndNotDamaged)
+{
+    creaArchivioNuovo(path);
+    const QStringList words(
+        QString("L'archivio \"%1\" è in uso da un altro programma: riprovare quando è chiuso").arg(path));
+    {
+        const OtherProgram other(path);
+        EXPECT_EQ(verifica().esito, Verifica::Esito::InUso);
+        EXPECT_EQ(verifica().guasti, words);
+    }
+    {
+        const ArchiveHold locked(path);
+        ASSERT_TRUE(locked.isHeld());
+        EXPECT_EQ(verifica().guasti, words);
+    }
+    EXPECT_EQ(verifica().esito, Verifica::Esito::InOrdine);
+}
+
+TEST_F(VerificaArchivioTest, AProtectedArchiveWithoutItsEndIsToldAsWhatItMayBe)
+{
+    makeArchive(path, scriptSchema(), "segreta");
+    folder.write("prova.db", folder.read("prova.db").chopped(300));
+    EXPECT_EQ(verificaArchivio(path, "segreta").esito, Verifica::Esito::Estraneo);
+    EXPECT_EQ(verificaArchivio(path, "segreta").guasti,
+              QStringList("Il file non è un archivio, oppure è un archivio protetto a cui manca la fine"));
 }
 
 } // namespace

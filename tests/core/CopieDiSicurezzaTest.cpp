@@ -2,6 +2,7 @@
 #include "core/CopieDiSicurezza.h"
 
 #include "platform/store/ArchiveFile.h"
+#include "support/SmallDisk.h"
 #include "support/TestWorld.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
+
+#include <unistd.h>
 
 namespace {
 
@@ -204,15 +207,117 @@ TEST_F(CopieDiSicurezzaTest, WhatAKilledProgramLeftHalfCopiedGoesAway)
     EXPECT_EQ(copies(), QStringList("2025-03-02_10-20-30-000_Cibra.Mdb"));
 }
 
-TEST_F(CopieDiSicurezzaTest, WhileAnotherProgramCopiesNothingIsDoneAndNothingSaid)
+TEST_F(CopieDiSicurezzaTest, WhileAnotherProgramCopiesNothingIsDoneAndThatIsSaidOnce)
 {
     world.cartella.makeFolder("Copie");
     QLockFile other(world.cartella.path("Copie\\Cibra.Mdb.lock"));
     ASSERT_TRUE(other.tryLock(0));
     change("Ondira");
     CopiaDiSicurezza(world.modulo);
+    CopiaDiSicurezza(world.modulo);
     EXPECT_EQ(CopieDi(archivio), QStringList());
-    EXPECT_EQ(world.schermate.errors, QStringList());
+    EXPECT_EQ(world.schermate.errors,
+              QStringList("Procedura ModNetServer - Errore:75 | La copia di sicurezza dell'archivio non è stata fatta, "
+                          "quelle di prima restano: un altro programma ne sta facendo una"));
+}
+
+TEST_F(CopieDiSicurezzaTest, TheLockOfAnotherMachineHoldsForTenMinutes)
+{
+    const auto lockMade = [this](int secondsAgo) {
+        world.cartella.write("Copie\\Cibra.Mdb.lock", "4242\ncibra\nun-altro-computer\nid\nboot\n");
+        QFile lock(world.cartella.path("Copie\\Cibra.Mdb.lock"));
+        ASSERT_TRUE(lock.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(
+            lock.setFileTime(QDateTime::currentDateTime().addSecs(-secondsAgo), QFileDevice::FileModificationTime));
+    };
+    change("Ondira");
+    lockMade(300);
+    CopiaDiSicurezza(world.modulo);
+    EXPECT_EQ(CopieDi(archivio), QStringList());
+    lockMade(660);
+    CopiaDiSicurezza(world.modulo);
+    EXPECT_EQ(copies(), QStringList("2025-03-02_10-20-30-000_Cibra.Mdb"));
+}
+
+TEST_F(CopieDiSicurezzaTest, CopiesOfAWrongClockGoBeforeThoseMadeAfterIt)
+{
+    world.orologio.when = QDateTime(QDate(2099, 1, 1), QTime(8, 0));
+    for (int minute = 0; minute < 10; ++minute) {
+        change(QString::number(minute));
+        copyAt(QTime(11, minute));
+    }
+    world.orologio.when = QDateTime(QDate(2025, 3, 2), QTime(8, 0));
+    for (int minute = 0; minute < 5; ++minute) {
+        change("giusto " + QString::number(minute));
+        copyAt(QTime(9, minute));
+    }
+    QStringList expected;
+    for (int minute = 0; minute < 5; ++minute)
+        expected += QString("2025-03-02_09-0%1-00-000_Cibra.Mdb").arg(minute);
+    for (int minute = 5; minute < 10; ++minute)
+        expected += QString("2099-01-01_11-0%1-00-000_Cibra.Mdb").arg(minute);
+    EXPECT_EQ(copies(), expected);
+}
+
+TEST_F(CopieDiSicurezzaTest, AnArchiveBehindALinkIsCopiedBesideItselfWithWhatItsJournalHolds)
+{
+    change("Ondira");
+    CopiaDiSicurezza(world.modulo);
+    dati.Close();
+    const QString link = world.cartella.path("altrove/collegamento.Mdb");
+    world.cartella.makeFolder("altrove");
+    ASSERT_TRUE(QFile::link(archivio, link));
+    ASSERT_TRUE(dati.Open(link));
+    // As large and as old as the copy: what is new is in the journal.
+    const QFileInfo copied(CopieDi(archivio).constFirst());
+    change("Tesmo");
+    {
+        QFile file(CopieDi(archivio).constFirst());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QFileInfo(archivio).lastModified(), QFileDevice::FileModificationTime));
+    }
+    ASSERT_EQ(copied.size(), QFileInfo(archivio).size());
+    copyAt(QTime(11, 0));
+    EXPECT_EQ(copies(), QStringList({"2025-03-02_10-20-30-000_Cibra.Mdb", "2025-03-02_11-00-00-000_Cibra.Mdb"}));
+    EXPECT_EQ(CopieDi(link), CopieDi(archivio));
+    EXPECT_EQ(clientsOf(CopieDi(link).constLast()), QStringList({"Ondira", "Tesmo"}));
+    EXPECT_FALSE(world.cartella.has("altrove/Copie"));
+}
+
+TEST_F(CopieDiSicurezzaTest, TheLastRoomOfTheDiskIsNotTakenForACopy)
+{
+    world.cartella.makeFolder("Copie");
+    const SmallDisk disk(world.cartella.path("Copie"), 65536);
+    if (!disk.isThere())
+        GTEST_SKIP() << "no small disk can be made here";
+    change("Ondira");
+    CopiaDiSicurezza(world.modulo);
+    EXPECT_EQ(world.schermate.errors,
+              QStringList("Procedura ModNetServer - Errore:75 | La copia di sicurezza dell'archivio non è stata fatta, "
+                          "quelle di prima restano: sul disco non c'è spazio"));
+    EXPECT_EQ(copies(), QStringList());
+}
+
+TEST_F(CopieDiSicurezzaTest, AFolderThatMayNotBeWrittenIsSaidAndTheCopiesInItStay)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only the superuser can be two people";
+    change("Ondira");
+    CopiaDiSicurezza(world.modulo);
+    change("Tesmo");
+    const QStringList before = copies();
+    const QString folder = world.cartella.path("Copie");
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::Permissions(0x5555)));
+    ASSERT_TRUE(QFile::setPermissions(world.cartella.path(), QFile::Permissions(0x7777)));
+    ASSERT_EQ(seteuid(65534), 0);
+    copyAt(QTime(11, 0));
+    ASSERT_EQ(seteuid(0), 0);
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::Permissions(0x7755)));
+    EXPECT_EQ(copies(), before);
+    EXPECT_EQ(world.schermate.errors,
+              QStringList("Procedura ModNetServer - Errore:75 | La copia di sicurezza dell'archivio non è stata fatta, "
+                          "quelle di prima restano: Il file o la cartella non può essere scritto: " +
+                          folder));
 }
 
 TEST_F(CopieDiSicurezzaTest, AFailureIsSaidOnceAndTheProgramGoesOn)

@@ -1,11 +1,17 @@
 // What becomes of a file that the user names.
 #include "platform/store/ArchiveLock.h"
+#include "platform/store/ArchiveSigns.h"
 #include "platform/store/ConnectionPrivate.h"
 #include "platform/StoreTest.h"
 
+#include <QDir>
 #include <QFile>
 
-#include <sys/wait.h>
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <thread>
+
 #include <unistd.h>
 
 namespace {
@@ -240,25 +246,101 @@ TEST_F(ReadOnlyArchiveTest, AFileInAFolderThatMayNotBeWrittenOpensForReading)
     expectReadableAndNotWritable();
 }
 
-TEST_F(OpenArchiveTest, AnOpenArchiveIsLockedForOtherPrograms)
+TEST_F(OpenArchiveTest, AnArchiveThatIsOpenIsNotHeldAndOneThatIsHeldIsInUse)
 {
     makeArchive(path(), kScript);
-    const auto seenByAnother = [&] {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(isLockedByAnother(path()) ? 1 : 0);
-        int status = 0;
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status) == 1;
-    };
-    EXPECT_FALSE(seenByAnother());
     ASSERT_TRUE(openWith());
     EXPECT_EQ(names(), u"uno due"_s);
-    EXPECT_TRUE(seenByAnother());
-    EXPECT_EQ(integrityCheck(path()), QStringList());
-    EXPECT_TRUE(seenByAnother()) << "a second look at the file leaves the lock alone";
+    EXPECT_FALSE(ArchiveHold(path()).isHeld());
     m_connection.Close();
-    EXPECT_FALSE(seenByAnother());
+
+    const ArchiveHold hold(path());
+    ASSERT_TRUE(hold.isHeld());
+    EXPECT_FALSE(ArchiveHold(path()).isHeld());
+    EXPECT_EQ(bytes().size(), 2 * 4096) << "reading the file leaves the lock alone";
+    ASSERT_TRUE(openWith()) << "a sound archive in use opens";
+    m_connection.setLockWait(0);
+    const auto failure = failureOf([&] { m_connection.Execute(u"DELETE FROM T"_s); });
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->words().startsWith(u"L'archivio è in uso da un altro programma: riprovare tra poco ("_s));
+}
+
+TEST_F(OpenArchiveTest, AProtectedArchiveInUseAsksForItsPasswordAndThenOpens)
+{
+    makeArchive(path(), kScript, u"segreto"_s);
+    auto hold = std::make_unique<ArchiveHold>(path());
+    ASSERT_TRUE(hold->isHeld());
+    expectRefused(openWith(), OpenOutcome::PasswordRichiesta, kLoginRefused,
+                  u"L'archivio è protetto da una password"_s);
+    ASSERT_TRUE(openWith(u"segreto"_s));
+    m_connection.setLockWait(0);
+    const auto failure = failureOf([&] { m_connection.Execute(u"DELETE FROM T"_s); });
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->words().startsWith(u"L'archivio è in uso da un altro programma: riprovare tra poco ("_s));
+    hold.reset();
+    EXPECT_EQ(names(), u"uno due"_s);
+}
+
+// The file is replaced while another program waits for it.
+TEST_F(OpenArchiveTest, AnArchiveThatIsReplacedWhileItIsWaitedForIsOpenedUnderItsName)
+{
+    makeArchive(path(), kScript);
+    makeArchive(path(u"Nuovo.Mdb"_s), kScript + u"INSERT INTO T (Nome) VALUES ('tre');"_s);
+    auto hold = std::make_unique<ArchiveHold>(path());
+    ASSERT_TRUE(hold->isHeld());
+    std::thread replacing([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        std::filesystem::rename(path(u"Nuovo.Mdb"_s).toStdString(), path().toStdString());
+        hold->retire();
+        hold.reset();
+    });
+    const OpenResult opened = openWith();
+    replacing.join();
+    ASSERT_TRUE(opened) << opened.words.toStdString();
+    EXPECT_EQ(names(), u"uno due tre"_s);
+}
+
+TEST_F(OpenArchiveTest, AConnectionToTheReplacedFileFailsInsteadOfWritingWhereNobodyReads)
+{
+    makeArchive(path(), kScript);
+    makeArchive(path(u"Nuovo.Mdb"_s), kScript);
+    ASSERT_TRUE(openWith());
+    m_connection.Execute(u"PRAGMA journal_mode=DELETE"_s); // in which an idle program holds no lock
+    EXPECT_EQ(names(), u"uno due"_s);
+    {
+        const ArchiveHold hold(path());
+        ASSERT_TRUE(hold.isHeld());
+        hold.retire();
+        EXPECT_EQ(bytes().first(6), "SQLite") << "the file has its name still";
+        std::filesystem::rename(path(u"Nuovo.Mdb"_s).toStdString(), path().toStdString());
+        hold.retire();
+    }
+    EXPECT_TRUE(failureOf([&] { m_connection.Execute(u"INSERT INTO T (Nome) VALUES ('perso')"_s); }));
+    m_connection.Close();
+    ASSERT_TRUE(openWith());
+    EXPECT_EQ(names(), u"uno due"_s);
+}
+
+TEST_F(OpenArchiveTest, TheJournalOfAnArchiveBehindALinkLiesBesideTheArchive)
+{
+    makeArchive(path(), kScript);
+    const QString link = path(u"altrove/collegamento.Mdb"_s);
+    ASSERT_TRUE(QDir().mkpath(path(u"altrove"_s)));
+    ASSERT_TRUE(QFile::link(path(), link));
+    ASSERT_TRUE(m_connection.Open(link));
+    m_connection.Execute(u"INSERT INTO T (Nome) VALUES ('tre')"_s);
+    EXPECT_TRUE(hasJournal(link));
+    EXPECT_EQ(companionFiles(link), companionFiles(path()));
+    EXPECT_EQ(throughLinks(link), path());
+}
+
+TEST_F(OpenArchiveTest, ALinkLeadsSomewhereAlsoWhereNothingIs)
+{
+    const QString link = path(u"collegamento.Mdb"_s);
+    ASSERT_TRUE(QFile::link(path(), link));
+    EXPECT_EQ(throughLinks(link), path());
+    ASSERT_TRUE(QFile::link(link, path(u"altro.Mdb"_s)));
+    EXPECT_EQ(throughLinks(path(u"altro.Mdb"_s)), path());
 }
 
 } // namespace

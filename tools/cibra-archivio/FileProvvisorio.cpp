@@ -4,19 +4,27 @@
 #include "platform/store/ArchiveSigns.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
+#include <cerrno>
+#include <csignal>
 #include <filesystem>
 
 namespace {
 
+// No name that a person would give to a file of his own: such a file would go with those of dead processes.
+const QString kMarchio = QStringLiteral(".provvisorio-");
+
 QString nomeLibero(const QString &path)
 {
-    const QString base = QStringLiteral("%1.%2-").arg(path).arg(QCoreApplication::applicationPid());
-    int number = 1;
-    while (QFileInfo::exists(base + QString::number(number)))
+    const QString base = QStringLiteral("%1%2%3-").arg(path, kMarchio).arg(QCoreApplication::applicationPid());
+    static int number = 0; // a name that is taken stands in no folder yet
+    do
         ++number;
+    while (QFileInfo::exists(base + QString::number(number)));
     return base + QString::number(number);
 }
 
@@ -26,10 +34,33 @@ QStringList tuttiDi(const QString &path)
     return QStringList(path) + companionFiles(path);
 }
 
+bool eMorto(const QString &process)
+{
+    return kill(pid_t(process.toLong()), 0) != 0 && errno == ESRCH;
+}
+
+void togliQuelliDeiMorti(const QString &path)
+{
+    const QFileInfo file(path);
+    const QRegularExpression name(
+        QRegularExpression::anchoredPattern(QRegularExpression::escape(file.fileName() + kMarchio) +
+                                            QStringLiteral("(\\d{1,9})-\\d+(-wal|-shm|-journal)?")));
+    QDir folder(file.path());
+    for (const QString &found : folder.entryList(QDir::Files | QDir::Hidden))
+        if (const auto match = name.match(found); match.hasMatch() && eMorto(match.captured(1)))
+            folder.remove(found);
+}
+
+QString nomeNellaCartellaPulita(const QString &path)
+{
+    togliQuelliDeiMorti(path);
+    return nomeLibero(path);
+}
+
 } // namespace
 
 FileProvvisorio::FileProvvisorio(const QString &path)
-    : m_finalPath(path), m_path(nomeLibero(path)), m_alSegnale(tuttiDi(m_path))
+    : m_finalPath(path), m_path(nomeNellaCartellaPulita(path)), m_alSegnale(tuttiDi(m_path))
 {
 }
 

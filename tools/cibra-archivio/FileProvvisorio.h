@@ -8,7 +8,8 @@
 class FileProvvisorio
 {
 public:
-    // Takes a free name in the folder of `path`; nothing is made yet.
+    // Takes a free name in the folder of `path`; nothing is made yet. What tools that were killed have left under such
+    // names of `path` is removed.
     explicit FileProvvisorio(const QString &path);
     ~FileProvvisorio(); // whatever still bears the name is removed; so it is where a signal ends the process
     FileProvvisorio(const FileProvvisorio &) = delete;

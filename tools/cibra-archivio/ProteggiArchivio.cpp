@@ -3,9 +3,27 @@
 #include "CambiaPassword.h"
 #include "core/CopieDiSicurezza.h"
 #include "platform/Failure.h"
-#include "platform/store/ArchiveSigns.h"
+#include "SegniDiCifra.h"
+#include "SostituisciArchivio.h"
 
 #include <QFile>
+#include <QRegularExpression>
+
+namespace {
+
+// A damaged archive may have lost its beginning: it counts as plain unless it looks like chance. A journal is what its
+// archive is.
+bool siLegge(const QString &copy)
+{
+    static const QRegularExpression ending(QStringLiteral("-(wal|journal)$"));
+    QFile file(QString(copy).remove(ending));
+    if (!file.open(QIODevice::ReadOnly))
+        return file.fileName() != copy;
+    const QByteArray start = file.read(kInizioCifrato);
+    return !pareCifrato(start);
+}
+
+} // namespace
 
 void proteggiArchivio(const QString &told, const QString &password)
 {
@@ -23,11 +41,7 @@ void proteggiArchivio(const QString &told, const QString &password)
 
 QStringList copieInChiaro(const QString &path)
 {
-    QStringList plain;
-    for (const QString &copy : CopieDi(path)) {
-        QFile file(copy);
-        if (file.open(QIODevice::ReadOnly) && isPlainArchive(file.read(kArchiveSign)))
-            plain += copy;
-    }
+    QStringList plain = CopieDi(path) + TenutiComErano(path);
+    plain.removeIf([](const QString &copy) { return !siLegge(copy); });
     return plain;
 }

@@ -9,5 +9,6 @@
 // archive, where another program has it open, where the copy cannot be written, or where `password` is empty.
 void proteggiArchivio(const QString &path, const QString &password);
 
-// The safety copies of the archive that anybody can read still: those made before it had a password.
+// The files in Copie that anybody can read still: the safety copies of the archive made before it had a password, and
+// what was kept of it as it was.
 QStringList copieInChiaro(const QString &path);

@@ -1,11 +1,13 @@
 #include "RipristinaArchivio.h"
 
-#include "core/CopieDiSicurezza.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/store/BackUp.h"
+#include "QuelloDiPrima.h"
+#include "SegniDiCifra.h"
 #include "SostituisciArchivio.h"
+#include "VerificaArchivio.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -30,91 +32,65 @@ void apriCopia(Connection &copy, const QString &path, const QString &password)
         throw rifiuto(QStringLiteral("Il file \"%1\" non è la copia di un archivio di questo programma").arg(path));
 }
 
-void controlla(const QString &path, const QString &password, const QString &told)
+QString rimedio(const QString &path, const QString &password)
 {
+    return verificaArchivio(path, password).esito == Verifica::Esito::IndiciDaRiparare
+               ? QStringLiteral(". Sono rovinati solo gli indici: verifica --ripara li rifà")
+               : QString();
+}
+
+void controllaCopia(const QString &path, const QString &password)
+{
+    {
+        Connection copy;
+        apriCopia(copy, path, password);
+    }
     if (const QStringList faults = integrityCheck(path, password); !faults.isEmpty())
-        throw rifiuto(QStringLiteral("La copia \"%1\" è danneggiata: %2").arg(told, faults.first()));
+        throw rifiuto(
+            QStringLiteral("La copia \"%1\" è danneggiata: %2%3").arg(path, faults.first(), rimedio(path, password)));
 }
 
-void tieni(const QString &from, const QString &to)
+void copiaControllata(const QString &from, const QString &to, const QString &password)
 {
-    if (QFileInfo::exists(from) && !QFile::copy(from, to))
-        throw rifiuto(QStringLiteral("L'archivio di prima non si può tenere in \"%1\"").arg(to));
+    {
+        Connection copy;
+        apriCopia(copy, from, password);
+        backUp(copy, to);
+    }
+    if (const QStringList faults = integrityCheck(to, password); !faults.isEmpty())
+        throw rifiuto(QStringLiteral("La copia \"%1\" è danneggiata: %2").arg(to, faults.first()));
 }
 
-// File by file, whatever it may be: first of all, because opening a damaged archive may change it.
-QString tieniComE(const QString &path, const QDateTime &when)
+void mettiNuovo(const FileProvvisorio &nuovo, const QString &path, const QString &copia)
 {
-    const QString kept = NomeDiCopia(path, when) + QStringLiteral(".prima");
-    tieni(path, kept);
-    for (const QLatin1String &ending : kCompanionEndings)
-        if (QFileInfo(path + ending).size() > 0)
-            tieni(path + ending, kept + ending);
-    return kept;
-}
-
-void scarta(const QString &kept)
-{
-    for (const QString &file : QStringList(kept) + companionFiles(kept))
-        QFile::remove(file);
-}
-
-// The present archive as one more safety copy; empty where it does not open, or is damaged.
-QString tieniCopiato(const QString &path, const QString &password, const QDateTime &when)
-{
-    Connection present;
-    if (!present.Open(path, password) || !integrityCheck(path, password).isEmpty())
-        return {};
-    const QString copy = FaiCopia(present, when);
-    if (copy.isEmpty())
-        throw rifiuto(QStringLiteral("L'archivio \"%1\" è aperto da un altro programma").arg(path));
-    return copy;
-}
-
-// A sound archive needs no second file beside its safety copy.
-QString tieniQuelloDiAdesso(const QString &path, const QString &password, const QDateTime &when)
-{
-    const QString asItIs = tieniComE(path, when);
-    const QString copied = tieniCopiato(path, password, when);
-    if (copied.isEmpty())
-        return asItIs;
-    scarta(asItIs);
-    return copied;
-}
-
-void togliGiornale(const QString &path)
-{
-    for (const QString &file : companionFiles(path))
-        if (QFileInfo::exists(file) && !QFile::remove(file))
-            throw rifiuto(QStringLiteral("Il file \"%1\" non si può togliere").arg(file));
+    QFile::setPermissions(nuovo.path(), QFileInfo(copia).permissions());
+    togliFileAccanto(path); // left by an archive that is gone; the new one has no part in them
+    nuovo.diventaNuovo();
 }
 
 } // namespace
 
-QString ripristinaArchivio(const QString &copia, const QString &told, const QString &password, const QDateTime &quando)
+Ripristino ripristinaArchivio(const QString &copia, const QString &told, const QString &password,
+                              const QDateTime &quando)
 {
-    const bool isThere = QFileInfo(told).isFile();
-    const QString path = isThere ? QFileInfo(told).canonicalFilePath() : QFileInfo(told).absoluteFilePath();
+    const QFileInfo file(throughLinks(told));
+    const bool isThere = file.isFile();
+    const QString path = isThere ? file.canonicalFilePath() : file.absoluteFilePath();
     if (isThere && QFileInfo(copia).canonicalFilePath() == path)
         throw rifiuto(QStringLiteral("La copia e l'archivio sono lo stesso file"));
 
-    const FileProvvisorio restored(path);
-    {
-        Connection copy;
-        apriCopia(copy, copia, password);
-        controlla(copia, password, copia);
-        backUp(copy, restored.path());
+    controllaCopia(copia, password);
+    const auto fermo = isThere ? tieniFermo(path) : nullptr;
+    const FileProvvisorio nuovo(path);
+    copiaControllata(copia, nuovo.path(), password);
+    if (!fermo) {
+        mettiNuovo(nuovo, path, copia);
+        return {};
     }
-    controlla(restored.path(), password, restored.path());
-    QFile::setPermissions(restored.path(), QFileInfo(isThere ? path : copia).permissions());
-
-    QString kept;
-    if (isThere) {
-        rifiutaInUso(path);
-        kept = tieniQuelloDiAdesso(path, password, quando);
-        rifiutaInUso(path);
-    }
-    togliGiornale(path);
-    restored.sostituisciOriginale();
-    return kept;
+    QuelloDiPrima prima(path, password, quando);
+    prendiDiritti(nuovo.path(), path);
+    prima.resta(); // from here on it holds what the journal held
+    togliFileAccanto(path);
+    sostituisciArchivio(nuovo, path, *fermo);
+    return {prima.path(), prima.eraProtetto() && eInChiaro(path)};
 }

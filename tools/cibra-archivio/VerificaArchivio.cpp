@@ -1,25 +1,24 @@
 #include "VerificaArchivio.h"
 
+#include "CopiaGrezza.h"
 #include "CreaArchivio.h"
 #include "platform/Failure.h"
 #include "platform/store/ArchiveFile.h"
 #include "platform/store/ArchiveSigns.h"
 #include "platform/store/Connection.h"
 #include "platform/store/Recordset.h"
+#include "QuelloDiPrima.h"
+#include "SegniDiCifra.h"
 #include "SostituisciArchivio.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTemporaryDir>
 
-#include <algorithm>
+#include <optional>
 
 namespace {
-
-constexpr qsizetype kInizio = 1024;  // the page of an encrypted archive
-constexpr int kFewestOfChance = 200; // of 1024 bytes drawn by chance about 251 values are unlike
 
 QString nomeTipo(ColumnType type)
 {
@@ -135,13 +134,6 @@ QStringList righeDi(const QStringList &told)
     return lines;
 }
 
-// An encrypted archive looks like chance: each value of a byte occurs in its beginning, or nearly each.
-bool pareCifrato(const QByteArray &start)
-{
-    QSet<char> seen(start.begin(), start.end());
-    return start.size() == kInizio && seen.size() > kFewestOfChance;
-}
-
 // What a file that is no plain archive says of itself by its beginning and size; empty where it may be an encrypted
 // one.
 QString estraneo(const QString &path)
@@ -149,13 +141,15 @@ QString estraneo(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    const QByteArray start = file.read(kInizio);
+    const QByteArray start = file.read(kInizioCifrato);
     if (isJetFile(start))
         return QStringLiteral("Il file è un archivio .mdb, non un archivio di questo programma");
     if (start.isEmpty())
         return QStringLiteral("Il file è vuoto, non è un archivio");
-    if (isPlainArchive(start) || (pareCifrato(start) && file.size() % kInizio == 0))
+    if (isPlainArchive(start) || (pareCifrato(start) && file.size() % kInizioCifrato == 0))
         return {};
+    if (pareCifrato(start))
+        return QStringLiteral("Il file non è un archivio, oppure è un archivio protetto a cui manca la fine");
     if (QByteArrayView(start).count('\0') == start.size())
         return QStringLiteral("Il file comincia con una pagina di zeri: se era un archivio, il suo inizio è perduto");
     return QStringLiteral("Il file non è un archivio");
@@ -174,14 +168,18 @@ QStringList danni(const QStringList &told)
     return faults;
 }
 
-// The engine's words for an index that does not fit its table.
-bool soloIndici(const QStringList &told)
+// With no index in the table of contents, what else is damaged is left; the pages of the indexes then serve nothing.
+bool tabelleIntere(const QString &path, const QString &password)
 {
-    static const QRegularExpression ofIndex(
-        QStringLiteral("^(row \\d+ missing from index |wrong # of entries in index |non-unique entry in index )"));
-    const QStringList lines = righeDi(told);
-    return !lines.isEmpty() &&
-           std::all_of(lines.begin(), lines.end(), [](const QString &line) { return ofIndex.match(line).hasMatch(); });
+    static const QRegularExpression unused(QStringLiteral("^Page \\d+ is never used$"));
+    try {
+        takeOutIndexes(path, password);
+        QStringList left = righeDi(integrityCheck(path, password));
+        left.removeIf([](const QString &line) { return unused.match(line).hasMatch(); });
+        return left.isEmpty();
+    } catch (const Failure &) {
+        return false;
+    }
 }
 
 Verifica verificaSchema(Connection &archive)
@@ -194,12 +192,9 @@ Verifica verificaSchema(Connection &archive)
     return esito(faults.isEmpty() ? Verifica::Esito::InOrdine : Verifica::Esito::Incompleto, faults);
 }
 
-} // namespace
-
-Verifica verificaArchivio(const QString &path, const QString &password)
+// The file may be changed: it is a copy that is thrown away afterwards.
+Verifica verificaCopia(const QString &path, const QString &password)
 {
-    if (!QFileInfo(path).isFile())
-        return esito(Verifica::Esito::Estraneo, {QStringLiteral("Il file \"%1\" non c'è").arg(path)});
     if (const QString words = estraneo(path); !words.isEmpty())
         return esito(Verifica::Esito::Estraneo, {words});
 
@@ -211,30 +206,67 @@ Verifica verificaArchivio(const QString &path, const QString &password)
         return esito(Verifica::Esito::Danneggiato, {QStringLiteral("L'archivio non si apre: %1").arg(opened.words)});
 
     const QStringList told = integrityCheck(path, password);
-    if (soloIndici(told))
-        return esito(Verifica::Esito::IndiciDaRiparare, danni(told));
-    if (!righeDi(told).isEmpty())
-        return esito(Verifica::Esito::Danneggiato, danni(told));
-    return verificaSchema(archive);
+    if (righeDi(told).isEmpty())
+        return verificaSchema(archive);
+    archive.Close();
+    return esito(tabelleIntere(path, password) ? Verifica::Esito::IndiciDaRiparare : Verifica::Esito::Danneggiato,
+                 danni(told));
 }
 
-void riparaArchivio(const QString &told, const QString &password)
+Failure guasto(const QString &words)
 {
-    // The file itself, so that a link to it stays a link.
-    const QString path = QFileInfo(told).canonicalFilePath();
-    const Verifica before = verificaArchivio(path.isEmpty() ? told : path, password);
-    if (before.esito == Verifica::Esito::InOrdine)
-        return;
-    if (before.esito != Verifica::Esito::IndiciDaRiparare)
-        throw Failure(FailureNumber::Engine, before.guasti.first());
+    return Failure(FailureNumber::Engine, words);
+}
 
-    const FileProvvisorio copy(path);
-    copyEncrypted(path, copy.path(), password, password);
-    rebuildIndexes(copy.path(), password);
-    const Verifica after = verificaArchivio(copy.path(), password);
+// A copy of the archive with its indexes made anew, which is sound and holds all that the tables held.
+void rifai(const QString &path, const QString &nuovo, const QString &password)
+{
+    const CopiaGrezza senzaIndici(path);
+    const QStringList indexes = takeOutIndexes(senzaIndici.path(), password);
+    copyEncrypted(senzaIndici.path(), nuovo, password, password);
+    runStatements(nuovo, indexes, password);
+    if (tableContents(senzaIndici.path(), password) != tableContents(nuovo, password))
+        throw guasto(QStringLiteral("La copia riparata non ha tutte le righe"));
+    const Verifica after = verificaCopia(nuovo, password);
     if (!after.guasti.isEmpty() && after.esito != Verifica::Esito::Incompleto)
-        throw Failure(FailureNumber::Engine, after.guasti.first());
-    if (rowCounts(path, password) != rowCounts(copy.path(), password))
-        throw Failure(FailureNumber::Engine, QStringLiteral("La copia riparata non ha tutte le righe"));
-    sostituisciArchivio(copy, path);
+        throw guasto(after.guasti.first());
+}
+
+} // namespace
+
+Verifica verificaArchivio(const QString &told, const QString &password)
+{
+    const QString path = QFileInfo(told).canonicalFilePath();
+    if (!QFileInfo(path).isFile())
+        return esito(Verifica::Esito::Estraneo, {QStringLiteral("Il file \"%1\" non c'è").arg(told)});
+    std::optional<CopiaGrezza> copia;
+    {
+        const ArchiveHold fermo(path);
+        if (!fermo.isHeld())
+            return esito(Verifica::Esito::InUso,
+                         {QStringLiteral("L'archivio \"%1\" è in uso da un altro programma: riprovare quando è chiuso")
+                              .arg(told)});
+        copia.emplace(path);
+    }
+    return verificaCopia(copia->path(), password);
+}
+
+QString riparaArchivio(const QString &told, const QString &password, const QDateTime &quando)
+{
+    const QString path = fileDellArchivio(told);
+    const auto fermo = tieniFermoIntero(path, password);
+    {
+        const CopiaGrezza copia(path);
+        const Verifica before = verificaCopia(copia.path(), password);
+        if (before.esito == Verifica::Esito::InOrdine)
+            return {};
+        if (before.esito != Verifica::Esito::IndiciDaRiparare)
+            throw guasto(before.guasti.first());
+    }
+    const FileProvvisorio nuovo(path);
+    rifai(path, nuovo.path(), password);
+    QuelloDiPrima prima(path, password, quando);
+    sostituisciArchivio(nuovo, path, *fermo);
+    prima.resta();
+    return prima.path();
 }

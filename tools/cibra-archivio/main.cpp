@@ -26,6 +26,7 @@ constexpr int kBene = 0;
 constexpr int kGuasto = 1; // the command could not be done, or the archive has faults
 constexpr int kUsoErrato = 2;
 constexpr int kPassword = 3; // the file to be imported has a password that lacks or is another one
+constexpr int kInUso = 4;    // another program has the archive that is to be checked open
 
 const QString kLettura = QStringLiteral("leggi-mdb"); // the reading process of importa, nothing for people
 
@@ -44,7 +45,8 @@ constexpr const char *kAiuto = R"(uso: cibra-archivio COMANDO FILE
                     com'è; dice che cosa ha letto e scritto
   verifica FILE     controlla formato, tabelle, colonne e integrità
   verifica --ripara FILE
-                    se sono rovinati solo gli indici, li rifà
+                    se sono rovinati solo gli indici, li rifà; l'archivio di
+                    prima resta nella cartella Copie
   proteggi FILE     dà una password all'archivio (chiesta due volte)
   sproteggi FILE    toglie la password all'archivio
   ripristina COPIA ARCHIVIO
@@ -68,7 +70,8 @@ controllata. Una password si scrive al terminale, oppure arriva come riga
 dell'ingresso.
 
 Stato di uscita: 0 fatto, 1 non riuscito o archivio con difetti, 2 uso errato,
-3 il file da importare vuole una password che manca o non è quella giusta.
+3 il file da importare vuole una password che manca o non è quella giusta,
+4 l'archivio da verificare è in uso da un altro programma.
 )";
 
 void scrivi(FILE *stream, const QString &text)
@@ -96,6 +99,9 @@ int mostra(const QString &path, const Verifica &result)
     case Verifica::Esito::PasswordRichiesta:
         scrivi(stdout, "L'archivio è protetto e la password manca o non è quella giusta");
         return kGuasto;
+    case Verifica::Esito::InUso:
+        scrivi(stdout, result.guasti.first());
+        return kInUso;
     default:
         break;
     }
@@ -119,8 +125,8 @@ int ripara(const QString &path)
         const Verifica before = verificaArchivio(path, password);
         if (before.esito != Verifica::Esito::IndiciDaRiparare)
             return before;
-        riparaArchivio(path, password);
-        scrivi(stdout, "Gli indici sono rifatti");
+        const QString kept = riparaArchivio(path, password, QDateTime::currentDateTime());
+        scrivi(stdout, QStringLiteral("Gli indici sono rifatti. Quello di prima è in \"%1\".").arg(kept));
         return verificaArchivio(path, password);
     };
     return mostra(path, conPassword(repair, [](const Verifica &result) {
@@ -178,7 +184,7 @@ int sproteggi(const QString &path)
     return kBene;
 }
 
-QString rimetti(const QString &copy, const QString &path)
+Ripristino rimetti(const QString &copy, const QString &path)
 {
     const QDateTime now = QDateTime::currentDateTime();
     try {
@@ -194,10 +200,13 @@ QString rimetti(const QString &copy, const QString &path)
 
 int ripristina(const QString &copy, const QString &path)
 {
-    const QString kept = rimetti(copy, path);
+    const Ripristino done = rimetti(copy, path);
     scrivi(stdout, QStringLiteral("L'archivio \"%1\" è di nuovo quello della copia \"%2\".").arg(path, copy));
-    if (!kept.isEmpty())
-        scrivi(stdout, QStringLiteral("Quello di prima è in \"%1\".").arg(kept));
+    if (!done.tenuto.isEmpty())
+        scrivi(stdout, QStringLiteral("Quello di prima è in \"%1\".").arg(done.tenuto));
+    if (done.senzaPiuPassword)
+        scrivi(stdout, "Attenzione: l'archivio aveva una password, la copia no: adesso chiunque lo può leggere. "
+                       "proteggi gliene dà una.");
     return kBene;
 }
 

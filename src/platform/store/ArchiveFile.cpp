@@ -6,6 +6,7 @@
 #include "platform/store/OpenArchive.h"
 #include "platform/store/Statement.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 
 #include <memory>
@@ -34,6 +35,37 @@ void exportTo(sqlite3 *original, const QString &path, const QString &password)
     runScript(original, "DETACH DATABASE copia");
 }
 
+void digest(QCryptographicHash &hash, sqlite3_stmt *row, int column)
+{
+    const char type = char(sqlite3_column_type(row, column));
+    const double number = type == SQLITE_FLOAT ? sqlite3_column_double(row, column) : 0;
+    const qint64 whole = sqlite3_column_int64(row, column);
+    QByteArrayView value;
+    if (type == SQLITE_FLOAT)
+        value = QByteArrayView(reinterpret_cast<const char *>(&number), sizeof number);
+    else if (type == SQLITE_INTEGER)
+        value = QByteArrayView(reinterpret_cast<const char *>(&whole), sizeof whole);
+    else if (type != SQLITE_NULL)
+        value = QByteArrayView(static_cast<const char *>(sqlite3_column_blob(row, column)),
+                               sqlite3_column_bytes(row, column));
+    const qint64 size = value.size();
+    hash.addData(QByteArrayView(&type, 1));
+    hash.addData(QByteArrayView(reinterpret_cast<const char *>(&size), sizeof size));
+    hash.addData(value);
+}
+
+TableContent contentOf(sqlite3 *handle, const QString &table)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    TableContent content;
+    Statement rows(handle, "SELECT * FROM " + quotedName(table) + " NOT INDEXED");
+    for (; rows.step(); ++content.rows)
+        for (int column = 0; column < rows.columnCount(); ++column)
+            digest(hash, rows.handle(), column);
+    content.digest = hash.result();
+    return content;
+}
+
 } // namespace
 
 void makeArchive(const QString &path, const QString &script, const QString &password)
@@ -45,7 +77,7 @@ void makeArchive(const QString &path, const QString &script, const QString &pass
 
 void copyEncrypted(const QString &from, const QString &to, const QString &password, const QString &fromPassword)
 {
-    NewFile file(to);
+    NewFile file(to, NewFile::Readers::OwnerAlone);
     const std::shared_ptr<Database> original = openOriginal(from, fromPassword);
     exportTo(original->handle(), to, password);
     file.keep();
@@ -68,9 +100,36 @@ QStringList integrityCheck(const QString &path, const QString &password)
     return faults;
 }
 
-void rebuildIndexes(const QString &path, const QString &password)
+QStringList takeOutIndexes(const QString &path, const QString &password)
 {
-    runScript(openOriginal(path, password)->handle(), "REINDEX");
+    QStringList statements;
+    {
+        const std::shared_ptr<Database> archive = openOriginal(path, password);
+        Statement made(archive->handle(), "SELECT sql FROM sqlite_master WHERE type = 'index' AND sql IS NOT NULL");
+        while (made.step())
+            statements += made.columnText(0);
+        runScript(archive->handle(), "PRAGMA writable_schema=ON;"
+                                     "DELETE FROM sqlite_master WHERE type = 'index' AND sql IS NOT NULL");
+    }
+    runStatements(path, {QStringLiteral("REINDEX")}, password);
+    return statements;
+}
+
+void runStatements(const QString &path, const QStringList &statements, const QString &password)
+{
+    const std::shared_ptr<Database> archive = openOriginal(path, password);
+    for (const QString &statement : statements)
+        runScript(archive->handle(), statement.toUtf8());
+}
+
+QMap<QString, TableContent> tableContents(const QString &path, const QString &password)
+{
+    const std::shared_ptr<Database> archive = openOriginal(path, password);
+    QMap<QString, TableContent> contents;
+    Statement tables(archive->handle(), "SELECT name FROM sqlite_master WHERE type = 'table'");
+    while (tables.step())
+        contents.insert(tables.columnText(0), contentOf(archive->handle(), tables.columnText(0)));
+    return contents;
 }
 
 QMap<QString, qint64> rowCounts(const QString &path, const QString &password)

@@ -1,9 +1,27 @@
-// Whether another program has an archive open.
+// Keeps every other program away from an archive.
 #pragma once
 
 #include <QString>
 
-// True where another process holds one of the engine's locks on the file, be it only to read: it does for as long as
-// it has the archive open with a journal beside it. Does not open the archive, so it serves for one that is damaged or
-// has a password. Not for an archive that this process has open itself: its own locks would go.
-bool isLockedByAnother(const QString &path);
+// Keeps an archive file for its holder alone, whatever is in it: as long as this lives, the engine finds the file in
+// use, in this process too. So it is read as a plain file, or as a copy.
+class ArchiveHold
+{
+public:
+    // The file must be there. Takes the lock at once or not at all; see isHeld.
+    explicit ArchiveHold(const QString &path);
+    ~ArchiveHold();
+    ArchiveHold(const ArchiveHold &) = delete;
+    ArchiveHold &operator=(const ArchiveHold &) = delete;
+
+    // False where somebody has the archive open. A file that may only be read is held against writers.
+    bool isHeld() const { return m_held; }
+
+    // To be told after another file has taken the name: a program that had opened the file meanwhile and waits for it
+    // is to meet a failure, and not to write where nobody reads any more. Nothing where the file has a name still.
+    void retire() const;
+
+private:
+    int m_file = -1;
+    bool m_held = false;
+};

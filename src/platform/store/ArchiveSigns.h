@@ -23,6 +23,9 @@ inline constexpr QLatin1String kRollbackJournal("-journal");
 inline constexpr QLatin1String kSharedMemory("-shm");
 inline constexpr std::array kCompanionEndings = {kWriteAheadLog, kRollbackJournal, kSharedMemory};
 
+// The file that `path` leads to through links, be it there or not. The engine keeps its files beside that one.
+QString throughLinks(const QString &path);
+
 // The paths of those files for the archive `path`, whether they are there or not.
 QStringList companionFiles(const QString &path);
 // Whether a journal beside the archive holds something that the archive itself may lack.

@@ -7,8 +7,6 @@
 #include "platform/store/NewFile.h"
 #include "platform/store/Statement.h"
 
-#include <QFile>
-
 namespace {
 
 constexpr int kAllPages = -1;
@@ -73,8 +71,7 @@ void checkPages(sqlite3 *copy)
 void backUp(Connection &from, const QString &to)
 {
     Database &original = from.engine().opened();
-    NewFile file(to);
-    QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner); // nobody else reads it so far
+    NewFile file(to, NewFile::Readers::OwnerAlone);
     {
         const EngineHandle copy = openCopy(to, original.key());
         copyPages(original.handle(), copy.get());

@@ -5,10 +5,11 @@
 #include <QFile>
 #include <QFileInfo>
 
-NewFile::NewFile(const QString &path) : m_path(path)
+NewFile::NewFile(const QString &path, Readers readers) : m_path(path)
 {
+    constexpr QIODevice::OpenMode kNew = QIODevice::WriteOnly | QIODevice::NewOnly;
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    if (!(readers == Readers::Usual ? file.open(kNew) : file.open(kNew, QFile::ReadOwner | QFile::WriteOwner)))
         throw Failure::usual(FailureNumber::PathAccess,
                              QFileInfo::exists(path) ? path + QStringLiteral(" esiste già") : path);
 }

@@ -6,7 +6,14 @@
 class NewFile
 {
 public:
-    explicit NewFile(const QString &path); // throws Failure(PathAccess) where it is there already or cannot be made
+    enum class Readers
+    {
+        Usual, // whom the system lets read new files
+        OwnerAlone
+    };
+    explicit NewFile(
+        const QString &path,
+        Readers readers = Readers::Usual); // throws Failure(PathAccess) where it is there already or cannot be made
     ~NewFile();
     NewFile(const NewFile &) = delete;
     NewFile &operator=(const NewFile &) = delete;

@@ -18,6 +18,7 @@ namespace {
 
 constexpr qint64 kEncryptedPage = 1024;
 constexpr int kLockWait = 5000; // milliseconds for another program to give its lock back
+constexpr int kMostMoves = 3;   // of the file while it is being opened
 
 enum class Mode
 {
@@ -123,7 +124,15 @@ void settle(sqlite3 *handle)
         runToEnd(handle, "PRAGMA journal_mode=DELETE");
     runToEnd(handle, "PRAGMA synchronous=NORMAL");
     runToEnd(handle, "PRAGMA cache_size=-16000");
+    runToEnd(handle, "SELECT 1 FROM sqlite_master LIMIT 1"); // others see by its lock that the archive is open
     sqlite3_busy_timeout(handle, kLockWait);
+}
+
+// Whether the file has lost its name to another one since it was opened.
+bool hasMoved(sqlite3 *handle)
+{
+    int moved = 0;
+    return sqlite3_file_control(handle, "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
 }
 
 class Opening
@@ -134,8 +143,20 @@ public:
     {
     }
 
+    // An archive that was replaced while it was waited for is opened once more: what is written into the one without a
+    // name would be lost.
     OpenedArchive run()
     {
+        OpenedArchive opened = once();
+        for (int move = 0; m_moved && move < kMostMoves; ++move)
+            opened = once();
+        return opened;
+    }
+
+private:
+    OpenedArchive once()
+    {
+        m_moved = false;
         const QFileInfo info(m_path);
         if (!info.isFile())
             return refused(Failure::usual(FailureNumber::FileNotFound, m_path));
@@ -154,7 +175,6 @@ public:
         return openAndTest();
     }
 
-private:
     OpenedArchive openAndTest()
     {
         OpenedArchive opened = attempt(Mode::Usual);
@@ -193,11 +213,12 @@ private:
             rc = testRead(handle);
         }
         m_lastCode = rc;
+        m_moved = hasMoved(handle);
         // It is sound and in use: each statement says so for itself, until the other program is done.
-        if ((rc & 0xff) == SQLITE_BUSY && m_plain)
+        if (isBusy(rc) && (m_plain || (looksEncrypted() && !key().isEmpty())))
             return {{OpenOutcome::Aperto, 0, {}}, std::move(database)};
-        if (rc != SQLITE_OK)
-            return failed(handle, rc);
+        if (rc != SQLITE_OK || m_moved)
+            return failed(handle, rc != SQLITE_OK ? rc : SQLITE_BUSY);
         if (isCutShort(handle))
             return refused(engineFailure(SQLITE_CORRUPT, QStringLiteral("the file ends within a page")));
         if (mode == Mode::Usual && m_purpose == OpenFor::Use)
@@ -215,7 +236,8 @@ private:
 
     OpenedArchive failed(sqlite3 *handle, int rc) const
     {
-        if ((rc & 0xff) == SQLITE_NOTADB && looksEncrypted())
+        // Whether a password that is not given would be right cannot be told of one in use.
+        if (((rc & 0xff) == SQLITE_NOTADB || isBusy(rc)) && looksEncrypted())
             return refused(OpenOutcome::PasswordRichiesta, FailureNumber::LoginRefused,
                            m_password.isEmpty() ? QStringLiteral("L'archivio è protetto da una password")
                                                 : QStringLiteral("Password non valida"));
@@ -224,6 +246,7 @@ private:
         return refused(engineFailure(handle, rc));
     }
 
+    static bool isBusy(int rc) { return (rc & 0xff) == SQLITE_BUSY; }
     bool looksEncrypted() const { return !m_plain && m_size >= kEncryptedPage && m_size % kEncryptedPage == 0; }
 
     QString m_path;
@@ -232,6 +255,7 @@ private:
     qint64 m_size = 0;
     bool m_journalWasEmpty = true;
     bool m_plain = false;
+    bool m_moved = false;
     int m_lastCode = SQLITE_OK;
 };
 
