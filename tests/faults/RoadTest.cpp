@@ -3,18 +3,17 @@
 #include <QDir>
 #include <QFile>
 
-namespace {
-
-constexpr int kRounds = 3;
-constexpr int kDays[kRounds] = {12, 20, 28};
-
-} // namespace
-
 RoadTest::Shared *RoadTest::s_shared = nullptr;
 
 void RoadTest::SetUpTestSuite()
 {
+    prepareWork({12, 20, 28});
+}
+
+void RoadTest::prepareWork(const std::vector<int> &days)
+{
     s_shared = new Shared;
+    shared().days = days;
     shared().prepared = shared().folder.filePath("prima.db");
     // Copies have tests of their own.
     QFile marker(shared().world.modulo().mondo.folder.resolve("Copie.no"));
@@ -42,7 +41,7 @@ void RoadTest::work(bool digests)
 {
     shared().world.open();
     countCommits(shared().world.modulo().dati(), digests);
-    for (const int days : kDays)
+    for (const int days : shared().days)
         shared().world.planExpandBalance(days);
     shared().world.close();
 }

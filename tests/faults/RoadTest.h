@@ -10,11 +10,15 @@
 
 #include <QTemporaryDir>
 
+#include <vector>
+
 class RoadTest : public ::testing::Test
 {
 protected:
     static void SetUpTestSuite();
     static void TearDownTestSuite();
+    // Prepares the archive for a work that plans, expands and balances so many days, one time after the other.
+    static void prepareWork(const std::vector<int> &days);
 
     // The work itself, for a child.
     static void work(bool digests = false);
@@ -26,6 +30,7 @@ protected:
     {
         RoadWorld world;
         QTemporaryDir folder;
+        std::vector<int> days;
         QString prepared;               // a copy of the archive before the work
         qint64 bytes = 0;               // that the whole work writes
         std::vector<quint64> afterward; // what the archive holds after so many commits; the first is before the work

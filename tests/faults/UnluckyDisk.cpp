@@ -9,8 +9,10 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <new>
 #include <sys/mman.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,8 +20,9 @@ namespace {
 
 constexpr int kFailedStatus = 3;
 
+bool counting = false;
 Misfortune misfortune = Misfortune::None;
-qint64 fatalByte = 0;
+qint64 fatal = 0;
 
 enum class Fate
 {
@@ -32,7 +35,7 @@ enum class Fate
 Fate fateOf(qint64 bytes)
 {
     const qint64 before = sharedProgress().written.fetch_add(bytes);
-    if (misfortune == Misfortune::None || before + bytes < fatalByte)
+    if (misfortune == Misfortune::None || misfortune == Misfortune::KillAtName || before + bytes < fatal)
         return Fate::Goes;
     return misfortune == Misfortune::Kill ? Fate::Dies : Fate::NoRoom;
 }
@@ -42,6 +45,24 @@ Fate fateOf(qint64 bytes)
     kill(getpid(), SIGKILL);
     for (;;)
         pause();
+}
+
+void passMoment()
+{
+    if (counting && ++sharedProgress().names >= fatal && misfortune == Misfortune::KillAtName)
+        die();
+}
+
+// A step by which a file is given a name or loses it.
+template <typename Step>
+int unluckyStep(const Step &step)
+{
+    passMoment();
+    const int result = int(step());
+    const int error = errno;
+    passMoment();
+    errno = error;
+    return result;
 }
 
 // A write of `count` bytes, which `put` does for as many of them as it is told.
@@ -90,6 +111,26 @@ void putInPlace(const char *name, Call call)
 
 } // namespace
 
+// In the place of the library's own, for the whole program and the libraries that it loads.
+extern "C" {
+
+int rename(const char *from, const char *to) noexcept
+{
+    return unluckyStep([&] { return syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, 0); });
+}
+
+int renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags) noexcept
+{
+    return unluckyStep([&] { return syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags); });
+}
+
+int unlink(const char *path) noexcept
+{
+    return unluckyStep([&] { return syscall(SYS_unlinkat, AT_FDCWD, path, 0); });
+}
+
+} // extern "C"
+
 Progress &sharedProgress()
 {
     static Progress *const progress = [] {
@@ -99,10 +140,11 @@ Progress &sharedProgress()
     return *progress;
 }
 
-void makeDiskUnlucky(Misfortune what, qint64 atByte)
+void makeDiskUnlucky(Misfortune what, qint64 at)
 {
+    counting = true;
     misfortune = what;
-    fatalByte = atByte;
+    fatal = at;
     putInPlace("write", unluckyWrite);
     putInPlace("pwrite", unluckyPwrite);
     putInPlace("pwrite64", unluckyPwrite);
@@ -110,13 +152,14 @@ void makeDiskUnlucky(Misfortune what, qint64 atByte)
     putInPlace("ftruncate", unluckyTruncate);
 }
 
-int runOnUnluckyDisk(Misfortune what, qint64 atByte, const std::function<void()> &work)
+int runOnUnluckyDisk(Misfortune what, qint64 at, const std::function<void()> &work)
 {
     sharedProgress().written = 0;
+    sharedProgress().names = 0;
     sharedProgress().commits = 0;
     const pid_t child = fork();
     if (child == 0) {
-        makeDiskUnlucky(what, atByte);
+        makeDiskUnlucky(what, at);
         try {
             work();
         } catch (const std::exception &failure) {

@@ -8,15 +8,17 @@
 
 enum class Misfortune
 {
-    None, // it only counts
-    Kill, // half of the write under way reaches the file, then the process is killed
-    Full, // this write and all that follow find no room
+    None,       // it only counts
+    Kill,       // half of the write under way reaches the file, then the process is killed
+    KillAtName, // the same before or after a file is given a name or loses it, whoever does that
+    Full,       // this write and all that follow find no room
 };
 
 // What parent and child both see of a child's run.
 struct Progress
 {
     std::atomic<qint64> written = 0; // bytes; each deletion and truncation of a file counts as one more
+    std::atomic<qint64> names = 0;   // moments before and after a file was given a name or lost it
     std::atomic<int> commits = 0;
     std::atomic<quint64> digests[256] = {}; // of what the archive held after each commit, where that was asked for
 };
@@ -24,12 +26,12 @@ struct Progress
 // Lies in memory that a fork shares.
 Progress &sharedProgress();
 
-// From now on in this process. Meant for a child, which ends with it.
-void makeDiskUnlucky(Misfortune misfortune, qint64 atByte);
+// From now on in this process, at that byte or, for KillAtName, at that moment. Meant for a child, which ends with it.
+void makeDiskUnlucky(Misfortune misfortune, qint64 at);
 
 // Runs `work` in a child on such a disk, the progress being set back first, and gives the child's wait status. A work
 // that throws ends the child with status 3, one that returns with 0.
-int runOnUnluckyDisk(Misfortune misfortune, qint64 atByte, const std::function<void()> &work);
+int runOnUnluckyDisk(Misfortune misfortune, qint64 at, const std::function<void()> &work);
 bool wasKilled(int status);
 bool hasFailed(int status);
 bool hasFinished(int status);
