@@ -316,7 +316,7 @@ TEST_F(CopieDiSicurezzaTest, AFolderThatMayNotBeWrittenIsSaidAndTheCopiesInItSta
     EXPECT_EQ(copies(), before);
     EXPECT_EQ(world.schermate.errors,
               QStringList("Procedura ModNetServer - Errore:75 | La copia di sicurezza dell'archivio non è stata fatta, "
-                          "quelle di prima restano: Il file o la cartella non può essere scritto: " +
+                          "quelle di prima restano: Non si può scrivere il file o la cartella: " +
                           folder));
 }
 
