@@ -2,6 +2,7 @@
 #include "Ratios.h"
 
 #include "core/CopieDiSicurezza.h"
+#include "platform/store/ArchiveFile.h"
 #include "road/RoadWorld.h"
 
 #include <QFile>
@@ -24,12 +25,26 @@ RoadWorld &aYear()
     return world;
 }
 
-template <class Copy>
-void copyAgainAndAgain(benchmark::State &state, const Copy &copy)
+// The same archive under a password.
+Connection &aProtectedYear()
 {
-    RoadWorld &world = aYear();
+    static Connection opened;
+    [[maybe_unused]] static const bool made = [] {
+        RoadWorld &plain = aYear();
+        const QString path = plain.archivePath() + ".protetto";
+        const QString password = QStringLiteral("segreta");
+        copyEncrypted(plain.archivePath(), path, password);
+        if (!opened.Open(path, password))
+            throw std::runtime_error("the protected archive does not open");
+        return true;
+    }();
+    return opened;
+}
+
+void copyAgainAndAgain(benchmark::State &state, Connection &archive, QString (*copy)(Connection &))
+{
     for ([[maybe_unused]] auto round : state) {
-        const QString made = copy(world);
+        const QString made = copy(archive);
         state.PauseTiming();
         if (!QFile::remove(made))
             throw std::runtime_error("no copy was made");
@@ -37,26 +52,36 @@ void copyAgainAndAgain(benchmark::State &state, const Copy &copy)
     }
 }
 
-void copyChecked(benchmark::State &state)
+QString copyChecked(Connection &archive)
 {
-    copyAgainAndAgain(
-        state, [](RoadWorld &world) { return FaiCopia(world.modulo().dati(), world.modulo().mondo.orologio.now()); });
+    return FaiCopia(archive, QDateTime(QDate(2025, 1, 1), QTime(8, 0)));
 }
 
-void copyFile(benchmark::State &state)
+QString copyFile(Connection &archive)
 {
-    copyAgainAndAgain(state, [](RoadWorld &world) {
-        const QString to = world.archivePath() + ".copia";
-        QFile from(world.archivePath());
-        QFile file(to);
-        if (!from.open(QIODevice::ReadOnly) || !file.open(QIODevice::WriteOnly) || file.write(from.readAll()) < 0)
-            throw std::runtime_error("the archive cannot be copied");
-        return to;
-    });
+    const QString to = archive.path() + ".copia";
+    QFile from(archive.path());
+    QFile file(to);
+    if (!from.open(QIODevice::ReadOnly) || !file.open(QIODevice::WriteOnly) || file.write(from.readAll()) < 0)
+        throw std::runtime_error("the archive cannot be copied");
+    return to;
+}
+
+template <QString (*Copy)(Connection &)>
+void plain(benchmark::State &state)
+{
+    copyAgainAndAgain(state, aYear().modulo().dati(), Copy);
+}
+
+template <QString (*Copy)(Connection &)>
+void closed(benchmark::State &state)
+{
+    copyAgainAndAgain(state, aProtectedYear(), Copy);
 }
 
 [[maybe_unused]] const bool kRegistered = [] {
-    measurePair("the safety copy of a year's archive", 40, copyChecked, copyFile);
+    measurePair("the safety copy of a year's archive", 40, plain<copyChecked>, plain<copyFile>);
+    measurePair("the safety copy of a protected year", 400, closed<copyChecked>, closed<copyFile>);
     return true;
 }();
 

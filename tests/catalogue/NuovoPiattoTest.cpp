@@ -71,7 +71,8 @@ TEST_F(NuovoPiattoTest, AnApostropheInTheNameFailsAndInsertsNothing)
         FAIL();
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.number(), FailureNumber::Engine);
-        EXPECT_EQ(failure.words(), "Errore di sintassi nell'istruzione: un nome contiene un apostrofo ('): scrivere ’ al suo posto");
+        EXPECT_EQ(failure.words(),
+                  "Errore di sintassi nell'istruzione: un nome contiene un apostrofo ('): scrivere ’ al suo posto");
     }
     EXPECT_EQ(countOf(dati, "Sostituisci"), 0);
 }
