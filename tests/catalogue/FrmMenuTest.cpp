@@ -3,6 +3,7 @@
 #include "catalogue/CatalogueRows.h"
 #include "catalogue/forms/Sostituti.h"
 #include "platform/ui/DataCombo.h"
+#include "platform/ui/EtichettaNome.h"
 #include "support/FormWorld.h"
 
 #include <gtest/gtest.h>
@@ -218,6 +219,36 @@ TEST_F(FrmMenuTest, TheFirstClickBeginsARowWithTodayTheDishTheTargetsAndTheFood)
     EXPECT_EQ(field(5), " 20");
     EXPECT_EQ(rows("TDBGrid1").size(), 3);
     EXPECT_EQ(countOf(dati, "Piatti"), 4);
+}
+
+TEST_F(FrmMenuTest, NothingJumpsWhenARowBeginsAndIsSaved)
+{
+    show();
+    QApplication::processEvents();
+    const auto places = [this] {
+        QApplication::processEvents();
+        QList<QPoint> all;
+        for (const char *name : {"TDBGrid1", "Campi", "Check1", "Label6", "Label7"})
+            all << control<QWidget>(name).pos();
+        return all;
+    };
+    const QList<QPoint> before = places();
+    click("Label1");
+    EXPECT_EQ(control<QLabel>("Label1").text(), "Salva");
+    EXPECT_EQ(places(), before);
+}
+
+TEST_F(FrmMenuTest, LongNamesAreCutAndTheWindowFitsTheScreen)
+{
+    world.modulo.NomePrimaPersona = "Maria Concetta <b>Immacolata</b>";
+    world.modulo.NomeSecondaPersona = "Giovanbattista & Alessandro";
+    show();
+    EXPECT_EQ(control<EtichettaNome>("LbCampo_8").scritta(), "quantità Maria Concetta <b>Immacolata</b>");
+    EXPECT_EQ(control<EtichettaNome>("LbCampo_9").scritta(), "quantità Giovanbattista & Alessandro");
+    form().resize(1, 1);
+    QApplication::processEvents();
+    EXPECT_LE(form().width(), 1280);
+    EXPECT_LE(form().minimumSizeHint().width(), 1280);
 }
 
 TEST_F(FrmMenuTest, AFoodIsChosenFromTheListAndATextWithoutABarChangesNothing)

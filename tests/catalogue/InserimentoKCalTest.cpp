@@ -50,4 +50,22 @@ TEST_F(InserimentoKCalTest, TheQuestionCanNameTheValue)
     EXPECT_EQ(text("Label1"), "A chi devo inserire il valore di '1557,5' KCal?");
 }
 
+TEST_F(InserimentoKCalTest, AnAmpersandInANameIsShownAndAnsweredAsItStands)
+{
+    world.modulo.NomePrimaPersona = "Anna & Bea";
+    show();
+    EXPECT_EQ(control<QAbstractButton>("Command1").text(), "Anna && Bea");
+    click("Command1");
+    EXPECT_EQ(world.modulo.NomeScelto, "Anna & Bea");
+}
+
+TEST_F(InserimentoKCalTest, NamesOfThreeWordsFitTheirButtons)
+{
+    world.modulo.NomePrimaPersona = "Maria Concetta Immacolata";
+    world.modulo.NomeSecondaPersona = "Giovanbattista Alessandro Maria";
+    show();
+    for (const char *button : {"Command1", "Command2"})
+        EXPECT_GE(control<QWidget>(button).width(), control<QWidget>(button).sizeHint().width());
+}
+
 } // namespace

@@ -47,6 +47,7 @@ public:
         add<QRadioButton>("Periodo_0")->setText("Giorno");
         add<QRadioButton>("Periodo_1")->setText("Settimana");
         add<QPushButton>("Nascosto")->hide();
+        add<QPushButton>("Persona")->setText("Anna && Bea");
         add<QPushButton>("Spento")->setEnabled(false);
         add<QComboBox>("Combo1")->addItems({"Colazione", "Menu", "Spuntino"});
         add<QListWidget>("Elenco")->addItems({"uno", "due"});
@@ -252,6 +253,7 @@ TEST_F(PlayerTest, PropertiesAreReadWithoutRegardToCase)
         {"Prova.Check1 checked", "false"},
         {"Prova.Nascosto visible", "false"},
         {"Prova.Spento enabled", "false"},
+        {"Prova.Persona", R"("Anna & Bea")"},
         {"Prova.Text1 maxlength", "8"},
         {"Prova.txtfields(3) text", R"("")"},
         {"Prova.Combo1", R"("Colazione")"},

@@ -260,6 +260,32 @@ TEST_F(GeneraMenuFormTest, TheMenuShowsOnePanelAtATime)
     EXPECT_EQ(panel(), "Frame3");
 }
 
+TEST_F(GeneraMenuFormTest, APanelThatNeedsMoreRoomMakesTheShrunkWindowGrow)
+{
+    form().show();
+    form().resize(1, 1);
+    QApplication::processEvents();
+    menu("mnuCrea");
+    QApplication::processEvents();
+    const auto *shown = form().findChild<QWidget *>("Frame1");
+    EXPECT_GE(shown->width(), shown->minimumSizeHint().width());
+    EXPECT_GE(shown->height(), shown->minimumSizeHint().height());
+    EXPECT_LE(form().width(), 1280);
+    EXPECT_LE(form().height(), 680);
+}
+
+TEST_F(GeneraMenuFormTest, TheCalculatorHasRoomInTheSmallestWindow)
+{
+    form().show();
+    form().resize(1, 1);
+    QApplication::processEvents();
+    click("Command5");
+    QApplication::processEvents();
+    const auto *card = form().findChild<QWidget *>("Frame4");
+    const auto *panel = form().findChild<QWidget *>("Frame3");
+    EXPECT_TRUE(panel->rect().contains(card->geometry()));
+}
+
 TEST_F(GeneraMenuFormTest, GeneratingWithoutGoingOnLeavesTheMenusInTheGrid)
 {
     fillCatalogue();

@@ -286,4 +286,19 @@ TEST_F(PreferitiFormTest, EnterInAListAsksForTheDishes)
     EXPECT_EQ(dishes(), QStringList({"Mela", "Pera"}));
 }
 
+TEST_F(PreferitiFormTest, EnterInTheGridReadsNothingAnew)
+{
+    clickCell(3, 1);
+    combo("Combo1").setEditText("Colazione"); // a filter that nobody has asked for yet
+    grid().setFocus();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        QTest::keyClick(&grid(), key);
+    EXPECT_EQ(dishes(), kAllDishes);
+    EXPECT_EQ(grid().currentIndex().row(), 3);
+    control<QPushButton>("Command2").setFocus();
+    combo("Combo1").setFocus();
+    QTest::keyClick(&combo("Combo1"), Qt::Key_Return);
+    EXPECT_NE(dishes(), kAllDishes);
+}
+
 } // namespace
