@@ -315,6 +315,7 @@ TEST_F(CibraArchivioTest, AnImportThatIsInterruptedLeavesNothingBehind)
         ASSERT_TRUE(tool.waitForStarted());
         while (files().isEmpty() && !tool.waitForFinished(1))
             ;
+        ASSERT_EQ(tool.state(), QProcess::Running) << tool.readAllStandardError().toStdString();
         ASSERT_EQ(kill(pid_t(tool.processId()), number), 0);
         ASSERT_TRUE(tool.waitForFinished(60000));
         EXPECT_EQ(tool.exitStatus(), QProcess::CrashExit) << number;
@@ -332,6 +333,7 @@ TEST_F(CibraArchivioTest, ASignalThatIsIgnoredStopsNoImport)
     ASSERT_TRUE(tool.waitForStarted());
     while (files().isEmpty() && !tool.waitForFinished(1))
         ;
+    ASSERT_EQ(tool.state(), QProcess::Running) << tool.readAllStandardError().toStdString();
     ASSERT_EQ(kill(pid_t(tool.processId()), SIGHUP), 0);
     ASSERT_TRUE(tool.waitForFinished(60000));
     EXPECT_EQ(tool.exitCode(), 0);

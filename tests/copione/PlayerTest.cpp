@@ -412,10 +412,10 @@ TEST_F(PlayerTest, UnknownCommandsAndWrongArgumentsFail)
 
 TEST_F(PlayerTest, APictureIsWrittenOfTheWindowInFront)
 {
-    EXPECT_EQ(play("start\nresize Prova 640 720\nshot prova.png\nshot \"" + pictures.path() + "/altra.png\" Prova"),
+    EXPECT_EQ(play("start\nresize Prova 640 800\nshot prova.png\nshot \"" + pictures.path() + "/altra.png\" Prova"),
               "");
-    EXPECT_EQ(QImage(pictures.path() + "/prova.png").size(), QSize(640, 720));
-    EXPECT_EQ(QImage(pictures.path() + "/altra.png").size(), QSize(640, 720));
+    EXPECT_EQ(QImage(pictures.path() + "/prova.png").size(), QSize(640, 800));
+    EXPECT_EQ(QImage(pictures.path() + "/altra.png").size(), QSize(640, 800));
 }
 
 TEST_F(PlayerTest, AHandlerThatNeverEndsIsCutOff)

@@ -51,9 +51,13 @@ void copiaConGiornale(const QString &archivio, const QString &to)
 CopiaGrezza::CopiaGrezza(const QString &archivio)
 {
     const QFileInfo file(archivio);
-    if (QFileInfo(file.path()).isWritable())
-        m_file.emplace(archivio);
-    else
-        m_file.emplace(m_folder.emplace().filePath(file.fileName()));
-    copiaConGiornale(archivio, m_file->path());
+    if (QFileInfo(file.path()).isWritable()) {
+        try {
+            copiaConGiornale(archivio, m_file.emplace(archivio).path());
+            return;
+        } catch (const Failure &) {
+            m_file.reset(); // its disk is full: the one of the temporary files may have room
+        }
+    }
+    copiaConGiornale(archivio, m_file.emplace(m_folder.emplace().filePath(file.fileName())).path());
 }

@@ -40,10 +40,11 @@ constexpr qsizetype kSector = 512;
 constexpr rlim_t kCpuSeconds = 600; // in case that nobody is left to watch
 constexpr rlim_t kMemory = rlim_t(512) * 1024 * 1024;
 constexpr rlim_t kMemoryPerByte = 16; // of the file: no value is longer than that, and it is copied a few times
-#if defined(__has_feature)
-constexpr bool kSanitized = __has_feature(address_sanitizer); // which maps terabytes beforehand
-#elif defined(__SANITIZE_ADDRESS__)
+// The sanitizer maps terabytes beforehand. Only clang tells of it by __has_feature, which Qt defines for the others.
+#if defined(__SANITIZE_ADDRESS__)
 constexpr bool kSanitized = true;
+#elif defined(__has_feature)
+constexpr bool kSanitized = __has_feature(address_sanitizer);
 #else
 constexpr bool kSanitized = false;
 #endif
