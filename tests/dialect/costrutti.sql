@@ -110,3 +110,8 @@ DROP VIEW NuovoQueryDef
 SELECT a FROM T GROUP BY Desc
 => reads
 SELECT a FROM T GROUP BY Desc ORDER BY Desc
+
+-- [having-of-one-group] where all rows are one group a condition on it stays behind the grouping
+SELECT First(a) AS x FROM T HAVING 1 = 1
+=> reads
+SELECT jet_first(a, T.rowid) AS x FROM T GROUP BY NULL HAVING 1 = 1

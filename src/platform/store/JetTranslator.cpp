@@ -18,13 +18,21 @@ enum class Key
     LeftOut
 };
 
+// What the rows are grouped by. GROUP BY NULL, which makes one group of all rows, names nothing.
+JetRanges readKeys(const JetTokens &tokens, JetRange group)
+{
+    JetRanges keys = readTerms(tokens, group);
+    keys.removeIf([&](JetRange key) { return key.to - key.from == 1 && tokens[key.from].is(JetWord::Null); });
+    return keys;
+}
+
 // A select whose clauses are known, written clause by clause.
 class SelectWriter
 {
 public:
     SelectWriter(const QString &statement, const JetTokens &tokens, const JetClauses &clauses)
         : m_tokens(tokens), m_clauses(clauses), m_tables(readTables(tokens, clauses.from)),
-          m_keys(readTerms(tokens, clauses.group)),
+          m_keys(readKeys(tokens, clauses.group)),
           m_grouped(!clauses.group.isEmpty() || callsAggregate(tokens, clauses.list)),
           m_writer(statement, tokens, m_tables.isEmpty() ? nullptr : m_tables.front())
     {
@@ -135,7 +143,7 @@ private:
         JetRanges named = terms;
         for (const JetRange key : m_keys) {
             const auto isSame = [&](JetRange term) { return sameExpression(m_tokens, key, term); };
-            if (m_tokens[key.from].is(JetWord::Null) || std::any_of(named.begin(), named.end(), isSame))
+            if (std::any_of(named.begin(), named.end(), isSame))
                 continue;
             beginTerm();
             m_writer.write(key);
