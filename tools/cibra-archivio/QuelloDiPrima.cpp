@@ -58,7 +58,9 @@ bool QuelloDiPrima::diventaCopia(const QString &archivio, const QString &passwor
         return false;
     if (!QFile::rename(opened.path(), copia))
         throw Failure(FailureNumber::PathAccess,
-                      QStringLiteral("L'archivio di prima non si può tenere in \"%1\"").arg(copia));
+                      QStringLiteral("L'archivio di prima non si può tenere in \"%1\": la cartella non si può "
+                                     "scrivere, o il disco è pieno")
+                          .arg(copia));
     return true;
 }
 
