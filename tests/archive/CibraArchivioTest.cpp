@@ -49,6 +49,18 @@ protected:
     QString path = folder.path("famiglia.db");
 
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden); }
+    // To an import that has begun its unfinished file; the tool has ended then.
+    void signalWhileWriting(QProcess &tool, int number) const
+    {
+        tool.write("segreta\n");
+        tool.closeWriteChannel();
+        ASSERT_TRUE(tool.waitForStarted());
+        while (files().isEmpty() && !tool.waitForFinished(1))
+            ;
+        ASSERT_EQ(tool.state(), QProcess::Running) << tool.readAllStandardError().toStdString();
+        ASSERT_EQ(kill(pid_t(tool.processId()), number), 0);
+        ASSERT_TRUE(tool.waitForFinished(60000));
+    }
 };
 
 TEST_F(CibraArchivioTest, HelpNamesEveryCommand)
@@ -310,14 +322,7 @@ TEST_F(CibraArchivioTest, AnImportThatIsInterruptedLeavesNothingBehind)
     for (int number : {SIGINT, SIGTERM, SIGHUP}) {
         QProcess tool;
         tool.start(QStringLiteral(CIBRA_ARCHIVIO), {"importa", sample("password97.mdb"), path});
-        tool.write("segreta\n");
-        tool.closeWriteChannel();
-        ASSERT_TRUE(tool.waitForStarted());
-        while (files().isEmpty() && !tool.waitForFinished(1))
-            ;
-        ASSERT_EQ(tool.state(), QProcess::Running) << tool.readAllStandardError().toStdString();
-        ASSERT_EQ(kill(pid_t(tool.processId()), number), 0);
-        ASSERT_TRUE(tool.waitForFinished(60000));
+        ASSERT_NO_FATAL_FAILURE(signalWhileWriting(tool, number));
         EXPECT_EQ(tool.exitStatus(), QProcess::CrashExit) << number;
         EXPECT_EQ(files(), QStringList()) << number;
     }
@@ -328,14 +333,7 @@ TEST_F(CibraArchivioTest, ASignalThatIsIgnoredStopsNoImport)
     QProcess tool;
     tool.start("/bin/sh", {"-c", "trap '' HUP; exec \"$0\" importa \"$1\" \"$2\"", CIBRA_ARCHIVIO,
                            sample("password97.mdb"), path});
-    tool.write("segreta\n");
-    tool.closeWriteChannel();
-    ASSERT_TRUE(tool.waitForStarted());
-    while (files().isEmpty() && !tool.waitForFinished(1))
-        ;
-    ASSERT_EQ(tool.state(), QProcess::Running) << tool.readAllStandardError().toStdString();
-    ASSERT_EQ(kill(pid_t(tool.processId()), SIGHUP), 0);
-    ASSERT_TRUE(tool.waitForFinished(60000));
+    ASSERT_NO_FATAL_FAILURE(signalWhileWriting(tool, SIGHUP));
     EXPECT_EQ(tool.exitCode(), 0);
     EXPECT_EQ(files(), QStringList("famiglia.db"));
 }

@@ -162,6 +162,21 @@ TEST_F(DataGridTest, ARowThatSomebodyElseChangedIsReadAgain)
     EXPECT_EQ(told.size(), 1);
 }
 
+TEST_F(DataGridTest, RowsThatCannotBeReadAgainAreToldToo)
+{
+    QStringList told;
+    host.report = [&](const Failure &failure) {
+        told << failure.words();
+        connection.Close();
+    };
+    rows->setValue("Alimento", QStringLiteral("Pepe"));
+    connection.Execute("Delete from Piatti where Alimento = 'Sale'");
+    clickRow(grid, 2);
+    QApplication::processEvents();
+    EXPECT_EQ(told.size(), 2);
+    EXPECT_EQ(told.last(), "Il collegamento al database non è aperto");
+}
+
 TEST_F(DataGridTest, AClickAndADoubleClickBelowTheRowsAreToldToo)
 {
     int clicks = 0;

@@ -14,7 +14,8 @@ void copiaFile(const QString &from, const QString &to);
 // The archive must be held. Throws as copiaFile; what was copied before stays.
 void copiaConGiornale(const QString &archivio, const QString &to);
 
-// Lies beside the archive, or in the folder for temporary files where that one may not be written; gone with its owner.
+// Lies beside the archive, or in the folder for temporary files where that one may not be written or has no room; gone
+// with its owner.
 class CopiaGrezza
 {
 public:

@@ -22,6 +22,7 @@ namespace {
 
 const QString kInserisci = QStringLiteral("  Inserisci altro Alimento  ");
 const QString kSalva = QStringLiteral("Salva");
+const QString kVuoto = QStringLiteral("RecordSet Vuoto!!"); // in the place of the position
 
 // The fields of the boxes, by the boxes' indices.
 const std::map<int, QString> kFields = {{0, "DataInserimento"}, {1, "ID"},        {2, "piatto"},     {3, "Alimento"},
@@ -123,7 +124,7 @@ void FrmMenu::Form_Load()
     // A name that breaks the statement is told, and the form opens all the same: another dish can be chosen.
     runHandler([this] {
         Forma();
-        scriviPosizione("RecordSet Vuoto!!");
+        scriviPosizione(kVuoto);
     });
 }
 
@@ -143,7 +144,7 @@ void FrmMenu::mostraPiatto(const QString &piatto)
 void FrmMenu::DataCombo1_Change()
 {
     Forma();
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
 }
 
 // An empty name opens the foods of all dishes, of which the first decides the dish. Where that has no name either, all
@@ -220,7 +221,7 @@ void FrmMenu::Righe_MoveComplete()
 {
     if (m_navigando || !m_righe->isOpen())
         return;
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     if (!m_righe->isAdding())
         setInAttesa(false);
 }
@@ -230,7 +231,7 @@ void FrmMenu::handlerFailed(const Failure &failure)
     if (failure.number() != FailureNumber::RowChanged || !m_righe->isOpen())
         return;
     m_righe->Resync();
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
 }
 
 void FrmMenu::scriviPosizione(const QString &empty)
@@ -259,7 +260,7 @@ void FrmMenu::cmdLast_Click()
 {
     const QScopedValueRollback navigating(m_navigando, true);
     VaiAllUltimo(*m_righe);
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     seguiRiga();
 }
 
@@ -267,7 +268,7 @@ void FrmMenu::cmdNext_Click()
 {
     const QScopedValueRollback navigating(m_navigando, true);
     VaiAlSuccessivo(*m_righe, m_modulo.mondo.schermo);
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     seguiRiga();
 }
 
@@ -275,7 +276,7 @@ void FrmMenu::cmdPrevious_Click()
 {
     const QScopedValueRollback navigating(m_navigando, true);
     VaiAlPrecedente(*m_righe, m_modulo.mondo.schermo);
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     seguiRiga();
 }
 
@@ -331,7 +332,7 @@ void FrmMenu::salvaAlimento()
     } else {
         m_righe->CancelUpdate();
     }
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     setInAttesa(false);
 }
 
@@ -355,7 +356,7 @@ void FrmMenu::Label6_Click()
     const QScopedValueRollback navigating(m_navigando, true);
     if (!CancellaAlimento(m_modulo, *m_righe, TxtFields(3)->text(), TxtFields(2)->text()))
         return;
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     if (!m_righe->isAdding())
         setInAttesa(false);
 }
@@ -371,7 +372,7 @@ void FrmMenu::Label7_Click()
     elencaPiatti();
     mostraPiatto({});
     Forma();
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
 }
 
 void FrmMenu::Check1_Click()
@@ -404,7 +405,7 @@ void FrmMenu::Command3_Click()
     CollegaAlGruppo(m_modulo, dish);
     mostraPiatto(dish.titolo);
     Forma();
-    scriviPosizione("RecordSet Vuoto!!");
+    scriviPosizione(kVuoto);
     m_ui->Frame2->hide();
 }
 

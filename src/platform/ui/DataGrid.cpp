@@ -191,12 +191,12 @@ void DataGrid::moveOrTell(int row)
         moveRecordset(row);
         return;
     }
-    guard->guarded([this, row] {
+    guard->guarded([this, guard, row] {
         try {
             moveRecordset(row);
         } catch (const Failure &failure) {
             QMetaObject::invokeMethod(
-                this, [this, failure] { afterFailure(failure); }, Qt::QueuedConnection);
+                this, [this, guard, failure] { afterFailure(*guard, failure); }, Qt::QueuedConnection);
             throw;
         }
     });
@@ -260,16 +260,17 @@ void DataGrid::tell(const Failure &failure)
         this,
         [this, guard, failure] {
             guard->guarded([&failure] { throw failure; });
-            guard->guarded([this, &failure] { afterFailure(failure); });
+            afterFailure(*guard, failure);
         },
         Qt::QueuedConnection);
 }
 
-void DataGrid::afterFailure(const Failure &failure)
+// Called from the event loop, which must see no exception: reading again may fail in its turn.
+void DataGrid::afterFailure(FormHost &guard, const Failure &failure)
 {
     const std::shared_ptr<Recordset> recordset = dataSource();
     if (failure.number() == FailureNumber::RowChanged && recordset && recordset->isOpen())
-        recordset->Resync();
+        guard.guarded([&recordset] { recordset->Resync(); });
     followRecordset();
 }
 

@@ -62,7 +62,7 @@ private:
     void moveOrTell(int row);
     bool write(int row, int field, const Value &value);
     void tell(const Failure &failure);
-    void afterFailure(const Failure &failure);
+    void afterFailure(FormHost &guard, const Failure &failure);
     void fitColumns();
     void fillWidth();
     void makeRoom(int excess);
